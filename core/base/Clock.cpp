@@ -1,0 +1,30 @@
+#include "core/base/Clock.h"
+
+namespace {
+std::optional<QDateTime> stoppedAt;
+}
+
+QDateTime Clock::Now()
+{
+    return stoppedAt ? *stoppedAt : QDateTime::currentDateTime();
+}
+
+void Clock::Set(std::optional<QDateTime> moment)
+{
+    stoppedAt = std::move(moment);
+}
+
+QString FormatDate(const QDate& date)
+{
+    return date.toString(QStringLiteral("yyyy-MM-dd"));
+}
+
+QString FormatTime(const QTime& time)
+{
+    return time.toString(QStringLiteral("HH:mm:ss"));
+}
+
+QString LongDate(const QDate& date)
+{
+    return date.toString(QStringLiteral("yyyy年MM月dd日"));
+}

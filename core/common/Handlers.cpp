@@ -1,0 +1,65 @@
+#include "core/common/Handlers.h"
+
+#include "core/base/RunTimeError.h"
+#include "core/common/Messages.h"
+
+#include <QLineEdit>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+int depth = 0;
+std::exception_ptr keptFailure;
+
+void ShowFailure(const std::exception_ptr& failure)
+{
+    try {
+        std::rethrow_exception(failure);
+    } catch (const RunTimeError& error) {
+        ShowErrorMessage(error.Description());
+    } catch (const std::exception& error) {
+        ShowErrorMessage(u"程序错误：%1"_s.arg(QString::fromUtf8(error.what())));
+    }
+}
+
+} // namespace
+
+void RunHandler(const std::function<void()>& handler)
+{
+    ++depth;
+    std::exception_ptr failure;
+    try {
+        handler();
+    } catch (...) {
+        failure = std::current_exception();
+    }
+    --depth;
+    if (depth > 0) {
+        if (failure && !keptFailure)
+            keptFailure = failure;
+        return;
+    }
+    const std::exception_ptr kept = std::exchange(keptFailure, nullptr);
+    if (failure || kept)
+        ShowFailure(failure ? failure : kept);
+}
+
+void WriteText(QLineEdit* box, const QString& text)
+{
+    ++depth;
+    box->setText(text);
+    --depth;
+    if (keptFailure)
+        std::rethrow_exception(std::exchange(keptFailure, nullptr));
+}
+
+NestedLoop::NestedLoop() : m_outerDepth(std::exchange(depth, 0))
+{}
+
+NestedLoop::~NestedLoop()
+{
+    depth = m_outerDepth;
+}

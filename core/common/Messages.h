@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+
+/// The title of every box that names no other.
+extern const QString SystemTitle;
+
+/// An information box. Returns when the user has read it.
+void ShowInfo(const QString& text, const QString& title = SystemTitle);
+
+/// A question box with 是 and 否. True for 是; closing the box in any other way is 否.
+bool AskYesNo(const QString& text, const QString& title = SystemTitle);
+
+/// An information box with the description of an error, as the driver or the run time words it.
+void ShowErrorMessage(const QString& description);
+
+/// Where boxes go. The program shows message boxes; tests put a recorder with scripted answers here.
+class MessagePresenter {
+public:
+    MessagePresenter() = default;
+    virtual ~MessagePresenter() = default;
+    MessagePresenter(const MessagePresenter&) = delete;
+    MessagePresenter& operator=(const MessagePresenter&) = delete;
+
+    virtual void Inform(const QString& title, const QString& text) = 0;
+    virtual bool Ask(const QString& title, const QString& text) = 0;
+};
+
+/// Replaces the presenter; nullptr brings the message boxes back. The caller keeps ownership.
+void SetMessagePresenter(MessagePresenter* presenter);

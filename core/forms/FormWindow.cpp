@@ -1,0 +1,109 @@
+#include "core/forms/FormWindow.h"
+
+#include "core/base/RunTimeError.h"
+#include "core/common/ErrorLog.h"
+#include "core/common/Handlers.h"
+#include "core/common/Messages.h"
+#include "core/forms/LabelButton.h"
+#include "core/forms/Skin.h"
+#include "core/forms/WindowRegistry.h"
+#include "core/session/Session.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QKeySequence UsualKey(const LabelButton* button)
+{
+    if (button->objectName() == u"cmdSubmit")
+        return QKeySequence(u"Alt+S"_s);
+    if (button->objectName() == u"cmdCancel")
+        return QKeySequence(u"Alt+C"_s);
+    return {};
+}
+
+} // namespace
+
+FormWindow::FormWindow(QWidget* owner, SlotUse slot)
+    : QWidget(owner, Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint),
+      m_slot(slot), m_chain(this)
+{
+    ApplyWindowSkin(this);
+    if (m_slot == SlotUse::Takes)
+        Session::WindowSlotFree = false;
+}
+
+void FormWindow::OnPress(LabelButton* button, std::function<void()> action, const QKeySequence& key)
+{
+    if (!m_hoverLines[0])
+        m_hoverLines = MakeHoverLines(this);
+    const QKeySequence own = key.isEmpty() ? UsualKey(button) : key;
+    if (!own.isEmpty())
+        button->SetKey(own);
+    connect(button, &LabelButton::Pressed, this, [action = std::move(action)] { RunHandler(action); });
+    connect(button, &LabelButton::Hovered, this, [this, button](bool over) {
+        if (over)
+            ShowHoverBox(button, m_hoverLines);
+        else
+            HideHoverBox(m_hoverLines);
+    });
+}
+
+void FormWindow::OnPress(QAbstractButton* button, std::function<void()> action)
+{
+    connect(button, &QAbstractButton::clicked, this, [action = std::move(action)] { RunHandler(action); });
+}
+
+void FormWindow::Guarded(const QString& label, const std::function<void()>& routine)
+{
+    const KeyChain::Suspension suspension(m_chain);
+    try {
+        routine();
+    } catch (const RunTimeError& error) {
+        ShowErrorMessage(error.Description());
+        LogError(Session::CurrentUserName, error.Description(), label);
+    }
+}
+
+void FormWindow::GuardedUnlogged(const std::function<void()>& routine)
+{
+    const KeyChain::Suspension suspension(m_chain);
+    try {
+        routine();
+    } catch (const RunTimeError& error) {
+        ShowErrorMessage(error.Description());
+    }
+}
+
+QList<QLineEdit*> FormWindow::TextBoxes() const
+{
+    QList<QLineEdit*> boxes = findChildren<QLineEdit*>();
+    boxes.removeIf([](const QLineEdit* box) { return !box->objectName().startsWith(u"txt"); });
+    return boxes;
+}
+
+void FormWindow::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    if (parentWidget() && isWindow())
+        move(parentWidget()->window()->geometry().center() - rect().center());
+    m_chain.FocusFirst();
+}
+
+void FormWindow::closeEvent(QCloseEvent* event)
+{
+    QWidget::closeEvent(event);
+    if (!event->isAccepted() || m_isClosed)
+        return;
+    m_isClosed = true;
+    if (m_slot != SlotUse::Untouched)
+        Session::WindowSlotFree = true;
+    Windows().Unloaded(this);
+    deleteLater();
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+
+class QFrame;
+class QWidget;
+
+/// How many twips a screen pixel stands for, on every layout that is also paper.
+inline constexpr int TwipsPerPixel = 15;
+
+/// The four thin lines around a label button: top, bottom, left, right.
+using HoverLines = std::array<QFrame*, 4>;
+
+/// Four hidden lines on a form.
+HoverLines MakeHoverLines(QWidget* form);
+
+/// Shows the lines 70 twips outside the label's edges.
+void ShowHoverBox(const QWidget* label, const HoverLines& lines);
+
+/// Hides the lines, if the first one is visible.
+void HideHoverBox(const HoverLines& lines);

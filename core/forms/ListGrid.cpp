@@ -1,0 +1,122 @@
+#include "core/forms/ListGrid.h"
+
+#include "core/base/Numbers.h"
+#include "core/forms/HoverBox.h"
+#include "core/gateway/DataGateway.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+
+using namespace Qt::StringLiterals;
+
+ListGrid::ListGrid(QWidget* parent) : QTreeWidget(parent)
+{
+    setRootIsDecorated(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    header()->setStretchLastSection(false);
+    header()->setMinimumSectionSize(0);
+    header()->setSectionsMovable(false);
+    setColumnCount(1);
+    setHeaderLabels({QString()});
+    setColumnHidden(0, true);
+    connect(header(), &QHeaderView::sectionResized, this, [this](int index, int /*before*/, int pixels) {
+        if (!m_isSettingColumns && index > 0 && static_cast<std::size_t>(index) < m_widths.size())
+            m_widths[static_cast<std::size_t>(index)] = pixels * TwipsPerPixel;
+    });
+    connect(this, &QTreeWidget::itemDoubleClicked, this,
+            [this](QTreeWidgetItem* item) { emit RowChosen(indexOfTopLevelItem(item)); });
+}
+
+void ListGrid::SetColumns(const std::vector<Column>& columns)
+{
+    m_isSettingColumns = true;
+    clear();
+    QStringList headers{QString()};
+    m_widths.assign(1, 0);
+    m_alignments.assign(1, Qt::AlignLeft);
+    for (const Column& column : columns) {
+        headers << column.header;
+        m_widths.push_back(column.widthTwips);
+        m_alignments.push_back(column.alignment | Qt::AlignVCenter);
+    }
+    setColumnCount(static_cast<int>(headers.size()));
+    setHeaderLabels(headers);
+    setColumnHidden(0, true);
+    for (int i = 1; i < columnCount(); ++i) {
+        const auto at = static_cast<std::size_t>(i);
+        header()->resizeSection(i, m_widths[at] / TwipsPerPixel);
+        headerItem()->setTextAlignment(i, m_alignments[at]);
+    }
+    m_isSettingColumns = false;
+}
+
+void ListGrid::ClearRows()
+{
+    clear();
+}
+
+void ListGrid::AddRow(const QStringList& subItems)
+{
+    auto* item = new QTreeWidgetItem(QStringList{QString()} + subItems);
+    for (int i = 1; i < columnCount(); ++i)
+        item->setTextAlignment(i, m_alignments[static_cast<std::size_t>(i)]);
+    addTopLevelItem(item);
+}
+
+QString ListGrid::SubItem(int row, int index) const
+{
+    const QTreeWidgetItem* item = topLevelItem(row);
+    return item ? item->text(index) : QString();
+}
+
+int ListGrid::SelectedRow() const
+{
+    return currentItem() ? indexOfTopLevelItem(currentItem()) : -1;
+}
+
+void ListGrid::SelectRow(int row)
+{
+    setCurrentItem(topLevelItem(row));
+}
+
+int ListGrid::ColumnWidthTwips(int index) const
+{
+    return index >= 0 && static_cast<std::size_t>(index) < m_widths.size()
+               ? m_widths[static_cast<std::size_t>(index)]
+               : 0;
+}
+
+void ListGrid::keyPressEvent(QKeyEvent* event)
+{
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && SelectedRow() >= 0) {
+        emit RowChosen(SelectedRow());
+        return;
+    }
+    QTreeWidget::keyPressEvent(event);
+}
+
+void LoadColumnHeaders(ListGrid* list, const QString& reportName, bool normal)
+{
+    // The two blanks before "And" are how the statement has always been written.
+    const QString where = u"RptName='"_s + reportName +
+                          (normal ? u"'  And ColStatus='1' Order By ColOrder ASC"_s
+                                  : u"'  And TempStatus='1' Order By TempOrder ASC"_s);
+    RecordSet rows = Gateway().SelectRows(
+        u"DFN_RptCol"_s, u"ColName,ColWidth,ColAlign,ColStatus,ColOrder,TempStatus,TempOrder"_s, where);
+    if (rows.Eof())
+        return;
+    std::vector<ListGrid::Column> columns;
+    for (; !rows.Eof(); rows.MoveNext()) {
+        ListGrid::Column column;
+        column.header = rows.Text(0);
+        column.widthTwips = static_cast<int>(LeadingNumber(rows.Text(1)));
+        const QString align = rows.Text(2);
+        column.alignment = align == u"1" ? Qt::AlignRight : align == u"2" ? Qt::AlignHCenter : Qt::AlignLeft;
+        columns.push_back(column);
+    }
+    list->SetColumns(columns);
+}

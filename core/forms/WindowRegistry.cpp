@@ -1,0 +1,94 @@
+#include "core/forms/WindowRegistry.h"
+
+#include "core/common/Handlers.h"
+
+#include <QApplication>
+#include <QEventLoop>
+#include <QPointer>
+#include <QWidget>
+
+void WindowRegistry::Register(const QString& name, Factory factory)
+{
+    m_factories.insert(name, std::move(factory));
+}
+
+Form* WindowRegistry::Load(const QString& name, QWidget* owner)
+{
+    if (Form* loaded = Find(name))
+        return loaded;
+    const auto factory = m_factories.constFind(name);
+    if (factory == m_factories.cend())
+        return nullptr;
+    Form* form = (*factory)(owner);
+    form->Widget()->setObjectName(name);
+    m_loaded.insert(name, form);
+    try {
+        form->OnLoad();
+    } catch (...) {
+        if (Find(name) == form)
+            form->Widget()->close();
+        throw;
+    }
+    return Find(name);
+}
+
+Form* WindowRegistry::Show(const QString& name, QWidget* owner)
+{
+    Form* form = Load(name, owner);
+    if (form) {
+        form->Widget()->show();
+        form->Widget()->raise();
+        form->Widget()->activateWindow();
+    }
+    return form;
+}
+
+void WindowRegistry::ShowModal(const QString& name, QWidget* owner)
+{
+    Form* form = Load(name, owner);
+    if (!form)
+        return;
+    const QPointer<QWidget> below = owner;
+    {
+        const NestedLoop nested;
+        QEventLoop loop;
+        QObject::connect(form->Widget(), &QObject::destroyed, &loop, &QEventLoop::quit);
+        form->Widget()->setWindowModality(Qt::ApplicationModal);
+        form->Widget()->show();
+        form->Widget()->activateWindow();
+        loop.exec();
+    }
+    if (below)
+        below->activateWindow();
+}
+
+void WindowRegistry::Unloaded(Form* form)
+{
+    m_loaded.removeIf([form](const auto& entry) { return entry.value() == form; });
+    if (!m_loaded.isEmpty() || !m_allUnloaded)
+        return;
+    // One window may close just before the next one is loaded: ask again from the event loop.
+    QMetaObject::invokeMethod(
+        qApp,
+        [this] {
+            if (m_loaded.isEmpty() && m_allUnloaded)
+                m_allUnloaded();
+        },
+        Qt::QueuedConnection);
+}
+
+void WindowRegistry::DropAll()
+{
+    const QHash<QString, Form*> loaded = std::exchange(m_loaded, {});
+    QList<QPointer<QWidget>> widgets;
+    for (Form* form : loaded)
+        widgets.append(form->Widget());
+    for (const QPointer<QWidget>& widget : widgets)
+        delete widget.data();
+}
+
+WindowRegistry& Windows()
+{
+    static WindowRegistry registry;
+    return registry;
+}

@@ -1,0 +1,73 @@
+#include "masterdata/CodeTableForm.h"
+
+#include "core/common/Handlers.h"
+#include "core/common/Messages.h"
+#include "core/forms/Fields.h"
+#include "core/forms/LabelButton.h"
+#include "core/forms/WindowRegistry.h"
+#include "core/gateway/DataGateway.h"
+
+#include <QLineEdit>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+constexpr int ColumnWidth = 50; // characters of the key and the name column
+}
+
+CodeTableForm::CodeTableForm(QWidget* owner, Table table)
+    : FormWindow(owner, SlotUse::Takes), m_table(std::move(table))
+{}
+
+void CodeTableForm::Wire(const Controls& controls)
+{
+    m_controls = controls;
+    Chain().Field(controls.key).AtMost(ColumnWidth).OnChange([this] { LookUp(); });
+    Chain().Field(controls.name).AtMost(ColumnWidth).OnEnter([this] { Save(); });
+    OnPress(controls.submit, [this] { Save(); });
+    OnPress(controls.cancel, [this] { close(); });
+}
+
+void CodeTableForm::SetKey(const QString& key)
+{
+    WriteText(m_controls.key, key);
+}
+
+void CodeTableForm::LookUp()
+{
+    const RecordSet row =
+        Gateway().SelectRows(m_table.table, m_table.nameColumn,
+                             m_table.keyColumn + u"='"_s + m_controls.key->text().trimmed() + u"'"_s);
+    m_isFound = !row.Eof();
+    m_controls.name->setText(m_isFound ? row.Text(0) : QString());
+}
+
+void CodeTableForm::Save()
+{
+    Guarded(m_table.errorLabel, [this] {
+        const QString key = m_controls.key->text().trimmed();
+        const QString name = m_controls.name->text().trimmed();
+        if (key.isEmpty()) {
+            ShowInfo(m_table.keyMissing);
+            FocusAndSelect(m_controls.key);
+            return;
+        }
+        if (name.isEmpty()) {
+            ShowInfo(m_table.nameMissing);
+            FocusAndSelect(m_controls.name);
+            return;
+        }
+        if (m_isFound) {
+            Gateway().UpdateRows(m_table.table, m_table.nameColumn + u"='"_s + name + u"'"_s,
+                                 m_table.keyColumn + u"='"_s + key + u"'"_s);
+        } else {
+            Gateway().InsertRow(m_table.table, m_table.keyColumn + u',' + m_table.nameColumn,
+                                u"'"_s + key + u"','"_s + name + u"'"_s);
+        }
+        WriteText(m_controls.key, QString());
+        WriteText(m_controls.name, QString());
+        FocusAndSelect(m_controls.key);
+        if (Form* list = Windows().Find(u"frmDataList"_s))
+            list->RefreshList();
+    });
+}

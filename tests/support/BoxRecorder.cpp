@@ -1,0 +1,59 @@
+#include "tests/support/BoxRecorder.h"
+
+#include "core/common/Handlers.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+
+void BoxRecorder::Expect(const QString& text, const QString& title)
+{
+    m_expected.append({title, text, false, false, false});
+}
+
+void BoxRecorder::ExpectQuestion(const QString& text, bool answer, const QString& title)
+{
+    m_expected.append({title, text, true, answer, false});
+}
+
+void BoxRecorder::ExpectContaining(const QString& part)
+{
+    m_expected.append({SystemTitle, part, false, false, true});
+}
+
+void BoxRecorder::Verify()
+{
+    for (const Expected& expected : std::as_const(m_expected))
+        ADD_FAILURE() << "a box never came: " << qPrintable(expected.text);
+    m_expected.clear();
+}
+
+void BoxRecorder::Inform(const QString& title, const QString& text)
+{
+    Meet(title, text, false);
+}
+
+bool BoxRecorder::Ask(const QString& title, const QString& text)
+{
+    return Meet(title, text, true);
+}
+
+bool BoxRecorder::Meet(const QString& title, const QString& text, bool isQuestion)
+{
+    const NestedLoop nested;
+    m_seen << text;
+    if (const auto action = std::exchange(m_whileOpen, nullptr))
+        action();
+    if (m_expected.isEmpty()) {
+        ADD_FAILURE() << "a box nobody expected: " << qPrintable(text);
+        return false;
+    }
+    const Expected expected = m_expected.takeFirst();
+    if (expected.isPart)
+        EXPECT_TRUE(text.contains(expected.text)) << qPrintable(text);
+    else
+        EXPECT_EQ(qPrintable(text), std::string(qPrintable(expected.text)));
+    EXPECT_EQ(qPrintable(title), std::string(qPrintable(expected.title)));
+    EXPECT_EQ(isQuestion, expected.isQuestion) << qPrintable(text);
+    return expected.answer;
+}
