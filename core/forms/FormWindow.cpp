@@ -37,6 +37,12 @@ FormWindow::FormWindow(QWidget* owner, SlotUse slot)
         Session::WindowSlotFree = false;
 }
 
+FormWindow::~FormWindow()
+{
+    if (!m_isClosed)
+        Windows().Unloaded(this);
+}
+
 void FormWindow::OnPress(LabelButton* button, std::function<void()> action, const QKeySequence& key)
 {
     if (!m_hoverLines[0])

@@ -28,6 +28,8 @@ class FormWindow : public QWidget, public Form {
 public:
     /// The windows are dialogs of their owner, without blocking it.
     FormWindow(QWidget* owner, SlotUse slot);
+    /// A window that goes with its owner, without closing, leaves the registry here.
+    ~FormWindow() override;
 
     QWidget* Widget() override { return this; }
 
