@@ -7,6 +7,7 @@
 
 #include <QAction>
 #include <QDesktopServices>
+#include <QDir>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -14,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPixmap>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +37,17 @@ public:
     explicit FakeRecord(QWidget* owner) : FormWindow(owner, SlotUse::Takes) {}
     void SetKey(const QString& text) override { key = text; }
     QString key;
+};
+
+/// In place of the browser that shows the help page.
+class Browser : public QObject {
+    Q_OBJECT
+
+public:
+    QList<QUrl> shown;
+
+public slots:
+    void Show(const QUrl& page) { shown << page; }
 };
 
 class MainWindow : public WindowTest {
@@ -276,17 +289,28 @@ TEST_F(MainWindow, BasicSettingsAndHelpLeaveTheKeyAndSalesStatisticsDoesNothing)
 
 TEST_F(MainWindow, HelpOpensThePageOfTheInstallationWhateverIsOpen)
 {
-    class Browser : public QObject {
-    public:
-        QStringList opened;
-    } browser;
+    Browser browser;
+    QDesktopServices::setUrlHandler(u"file"_s, &browser, "Show");
+    QDir(ProgramFolder()).mkpath(u"Help"_s);
+    WriteProgramFile(u"Help/index.htm"_s, u"<html></html>"_s);
     OpenFrame();
     Choose(u"menuAbout"_s);
     TakeStatements();
-    boxes.Expect(u"帮助文件未找到，请检查系统文件的完整性！"_s);
     Choose(u"menuHelp"_s);
+    Choose(u"mnuHelp"_s);
+    QDesktopServices::unsetUrlHandler(u"file"_s);
+
+    const QUrl page = QUrl::fromLocalFile(ProgramFolder() + u"/Help/index.htm"_s);
+    EXPECT_EQ(browser.shown, (QList<QUrl>{page, page}));
     EXPECT_EQ(TakeStatements(), QStringList());
     EXPECT_EQ(Session::CurrentMenuKey, u"About"_s);
+}
+
+TEST_F(MainWindow, AMissingHelpPageIsTold)
+{
+    OpenFrame();
+    boxes.Expect(u"帮助文件未找到，请检查系统文件的完整性！"_s);
+    Choose(u"menuHelp"_s);
 }
 
 TEST_F(MainWindow, ADisplacedSessionIsToldAndLeavesWithoutTouchingTheLaterOne)
@@ -542,3 +566,5 @@ TEST_F(MainWindow, AboutTellsTheVersionAndWhereNoToolIsFoundSaysSo)
     EXPECT_EQ(Windows().Find(u"frmAbout"_s), nullptr);
     EXPECT_TRUE(Session::WindowSlotFree);
 }
+
+#include "MainWindowTest.moc"
