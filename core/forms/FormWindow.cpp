@@ -37,6 +37,13 @@ FormWindow::FormWindow(QWidget* owner, SlotUse slot)
         Session::WindowSlotFree = false;
 }
 
+FormWindow::~FormWindow()
+{
+    // A window that goes with its owner was never closed.
+    if (!m_isClosed)
+        Windows().Unloaded(this);
+}
+
 void FormWindow::OnPress(LabelButton* button, std::function<void()> action, const QKeySequence& key)
 {
     if (!m_hoverLines[0])
@@ -105,5 +112,5 @@ void FormWindow::closeEvent(QCloseEvent* event)
     if (m_slot != SlotUse::Untouched)
         Session::WindowSlotFree = true;
     Windows().Unloaded(this);
-    deleteLater();
+    DestroyWhenIdle(this);
 }

@@ -28,6 +28,7 @@ class FormWindow : public QWidget, public Form {
 public:
     /// The windows are dialogs of their owner, without blocking it.
     FormWindow(QWidget* owner, SlotUse slot);
+    ~FormWindow() override;
 
     QWidget* Widget() override { return this; }
 
