@@ -118,5 +118,5 @@ void FormWindow::closeEvent(QCloseEvent* event)
     if (m_slot != SlotUse::Untouched)
         Session::WindowSlotFree = true;
     Windows().Unloaded(this);
-    deleteLater();
+    DestroyWhenIdle(this);
 }
