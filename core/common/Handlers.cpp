@@ -80,10 +80,12 @@ void WriteText(QLineEdit* box, const QString& text)
         std::rethrow_exception(std::exchange(keptFailure, nullptr));
 }
 
-NestedLoop::NestedLoop() : m_outerDepth(std::exchange(depth, 0))
+NestedLoop::NestedLoop()
+    : m_outerDepth(std::exchange(depth, 0)), m_outerFailure(std::exchange(keptFailure, nullptr))
 {}
 
 NestedLoop::~NestedLoop()
 {
     depth = m_outerDepth;
+    keptFailure = m_outerFailure;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <exception>
 #include <functional>
 
 class QLineEdit;
@@ -21,7 +22,7 @@ void DestroyWhenIdle(QObject* window);
 void WriteText(QLineEdit* box, const QString& text);
 
 /// Stands while a modal window or box runs an event loop of its own inside a handler: events handled
-/// there begin afresh and show their own failures.
+/// there begin afresh and show their own failures, and one that waits outside is none of theirs.
 class NestedLoop {
 public:
     NestedLoop();
@@ -31,4 +32,5 @@ public:
 
 private:
     int m_outerDepth;
+    std::exception_ptr m_outerFailure;
 };

@@ -80,6 +80,12 @@ void LabelButton::mouseReleaseEvent(QMouseEvent* event)
         emit Pressed();
 }
 
+void LabelButton::mouseDoubleClickEvent(QMouseEvent* /*event*/)
+{
+    // The second press of a double click: the first has done its work.
+    m_isDown = false;
+}
+
 void LabelButton::enterEvent(QEnterEvent* event)
 {
     QLabel::enterEvent(event);

@@ -3,7 +3,8 @@
 #include <QKeySequence>
 #include <QLabel>
 
-/// A label that works as a button. It takes no focus, so that a click leaves no field; a key of its own
+/// A label that works as a button. It takes no focus, so that a click leaves no field; a double click
+/// presses it once, so that a nervous hand does not save twice; a key of its own
 /// presses it from anywhere in the window, and stands in small letters beside the caption.
 class LabelButton : public QLabel {
     Q_OBJECT
@@ -26,6 +27,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
     void enterEvent(QEnterEvent* event) override;
     void leaveEvent(QEvent* event) override;
 

@@ -7,7 +7,13 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
+
+namespace {
+constexpr double WidestColumn = 32767; // twips: more than the longest paper
+}
 
 ListGrid::ListGrid(QWidget* parent) : QTreeWidget(parent)
 {
@@ -113,7 +119,7 @@ void LoadColumnHeaders(ListGrid* list, const QString& reportName, bool normal)
     for (; !rows.Eof(); rows.MoveNext()) {
         ListGrid::Column column;
         column.header = rows.Text(0);
-        column.widthTwips = static_cast<int>(LeadingNumber(rows.Text(1)));
+        column.widthTwips = static_cast<int>(std::clamp(LeadingNumber(rows.Text(1)), 0.0, WidestColumn));
         const QString align = rows.Text(2);
         column.alignment = align == u"1" ? Qt::AlignRight : align == u"2" ? Qt::AlignHCenter : Qt::AlignLeft;
         columns.push_back(column);

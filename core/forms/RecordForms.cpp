@@ -4,6 +4,7 @@
 #include "core/forms/WindowRegistry.h"
 
 #include <QHash>
+#include <QScopeGuard>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -37,7 +38,14 @@ void EditRecord(const QString& menuKey, const QString& key)
     const QString name = RecordFormOf(menuKey);
     if (name.isEmpty())
         return;
-    if (Form* form = Windows().Load(name, MainFrame()))
-        form->SetKey(key);
-    ShowFunctionWindow(name);
+    if (!Windows().Knows(name)) {
+        ShowFunctionWindow(name);
+        return;
+    }
+    Form* form = Windows().Load(name, MainFrame());
+    if (!form)
+        return;
+    // A key that cannot be read is told, but must not leave a loaded window that nobody sees.
+    const auto show = qScopeGuard([&name] { ShowFunctionWindow(name); });
+    form->SetKey(key);
 }

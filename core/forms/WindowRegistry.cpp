@@ -27,6 +27,10 @@ Form* WindowRegistry::Load(const QString& name, QWidget* owner)
     } catch (...) {
         if (Find(name) == form)
             form->Widget()->close();
+        if (Find(name) == form) { // it refused to close
+            Unloaded(form);
+            form->Widget()->deleteLater();
+        }
         throw;
     }
     return Find(name);

@@ -7,6 +7,7 @@
 #include "tests/support/WindowTest.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -99,4 +100,255 @@ TEST_F(Registry, AnOwnedWindowThatGoesWithItsOwnerIsForgotten)
     Settle();
     EXPECT_EQ(Windows().Find(u"frmOwned"_s), nullptr);
     EXPECT_EQ(m_ends, 1);
+}
+
+TEST_F(Registry, ThereIsOneOfEachWindowUnderItsName)
+{
+    RegisterProbe(u"frmProbe"_s, [](ProbeForm& form) { form.Add(u"txtA"_s); });
+    QWidget* first = Open(u"frmProbe"_s);
+    EXPECT_EQ(first->objectName(), u"frmProbe"_s);
+    EXPECT_EQ(Open(u"frmProbe"_s), first);
+    EXPECT_TRUE(first->isVisible());
+    EXPECT_EQ(FocusName(), u"txtA"_s);
+    EXPECT_EQ(Windows().Find(u"frmOther"_s), nullptr);
+}
+
+TEST_F(Registry, ALoadedWindowRunsItsFirstStatementsOnceAndIsNotSeen)
+{
+    int loads = 0;
+    RegisterProbe(u"frmProbe"_s, [&loads](ProbeForm& form) { form.onLoad = [&loads] { ++loads; }; });
+    Form* form = Windows().Load(u"frmProbe"_s, nullptr);
+    ASSERT_NE(form, nullptr);
+    EXPECT_FALSE(form->Widget()->isVisible());
+    EXPECT_EQ(Windows().Load(u"frmProbe"_s, nullptr), form);
+    EXPECT_EQ(Windows().Show(u"frmProbe"_s, nullptr), form);
+    EXPECT_TRUE(form->Widget()->isVisible());
+    EXPECT_EQ(loads, 1);
+}
+
+TEST_F(Registry, AWindowThatClosesItselfOnLoadingIsNotOpened)
+{
+    CountEnds();
+    RegisterProbe(
+        u"frmProbe"_s,
+        [](ProbeForm& form) {
+            form.onLoad = [&form] {
+                ShowInfo(u"不能打开"_s);
+                form.close();
+            };
+        },
+        SlotUse::Takes);
+    boxes.Expect(u"不能打开"_s);
+    EXPECT_EQ(Windows().Show(u"frmProbe"_s, nullptr), nullptr);
+    EXPECT_EQ(Windows().Find(u"frmProbe"_s), nullptr);
+    EXPECT_TRUE(Session::WindowSlotFree);
+    Settle();
+    EXPECT_EQ(m_ends, 1);
+    boxes.Expect(u"不能打开"_s);
+    Windows().ShowModal(u"frmProbe"_s, nullptr);
+}
+
+TEST_F(Registry, WhatALoadThrowsComesOutAndTheWindowIsGone)
+{
+    CountEnds();
+    RegisterProbe(
+        u"frmProbe"_s, [](ProbeForm& form) { form.onLoad = [] { throw RunTimeError(u"坏了"_s); }; },
+        SlotUse::Takes);
+    EXPECT_THROW(Windows().Show(u"frmProbe"_s, nullptr), RunTimeError);
+    EXPECT_EQ(Windows().Find(u"frmProbe"_s), nullptr);
+    EXPECT_TRUE(Session::WindowSlotFree);
+    EXPECT_THROW(Windows().ShowModal(u"frmProbe"_s, nullptr), RunTimeError);
+    Settle();
+    EXPECT_GE(m_ends, 1);
+}
+
+TEST_F(Registry, AWindowThatFailsToLoadIsGoneEvenIfItDoesNotWantToClose)
+{
+    class Stubborn : public ProbeForm {
+    public:
+        explicit Stubborn(QWidget* owner) : ProbeForm(owner, SlotUse::Untouched, nullptr) {}
+        void closeEvent(QCloseEvent* event) override { event->ignore(); }
+    };
+    Windows().Register(u"frmProbe"_s, [](QWidget* owner) {
+        auto* form = new Stubborn(owner);
+        form->onLoad = [] { throw RunTimeError(u"坏了"_s); };
+        return form;
+    });
+    EXPECT_THROW(Windows().Load(u"frmProbe"_s, nullptr), RunTimeError);
+    EXPECT_EQ(Windows().Find(u"frmProbe"_s), nullptr);
+}
+
+TEST_F(Registry, TheSlotIsTakenAndFreedAsTheWindowSays)
+{
+    const struct {
+        SlotUse use;
+        bool whileOpen;
+        bool afterwards;
+    } cases[] = {
+        {SlotUse::Takes, false, true}, {SlotUse::Frees, false, true}, {SlotUse::Untouched, false, false}};
+    for (const auto& c : cases) {
+        Session::WindowSlotFree = c.use == SlotUse::Takes;
+        RegisterProbe(u"frmProbe"_s, nullptr, c.use);
+        QWidget* window = Open(u"frmProbe"_s);
+        EXPECT_EQ(Session::WindowSlotFree, c.whileOpen);
+        window->close();
+        EXPECT_EQ(Session::WindowSlotFree, c.afterwards);
+        Settle();
+    }
+}
+
+TEST_F(Registry, TheProcessEndsWhenNoWindowIsLoadedShownOrNot)
+{
+    CountEnds();
+    RegisterProbe(u"frmFirst"_s, nullptr);
+    RegisterProbe(u"frmSecond"_s, nullptr);
+    QWidget* first = Open(u"frmFirst"_s);
+    Windows().Load(u"frmSecond"_s, nullptr);
+    first->close();
+    Settle();
+    EXPECT_EQ(m_ends, 0) << "a window that is loaded and not shown keeps the process";
+    Windows().Find(u"frmSecond"_s)->Widget()->close();
+    Settle();
+    EXPECT_EQ(m_ends, 1);
+}
+
+TEST_F(Registry, OneWindowMayCloseJustBeforeTheNextIsLoaded)
+{
+    CountEnds();
+    RegisterProbe(u"frmFirst"_s, nullptr);
+    RegisterProbe(u"frmSecond"_s, nullptr);
+    Open(u"frmFirst"_s)->close();
+    Windows().Show(u"frmSecond"_s, nullptr);
+    Settle();
+    EXPECT_EQ(m_ends, 0);
+}
+
+TEST_F(Registry, ClosingTwiceIsClosingOnce)
+{
+    CountEnds();
+    RegisterProbe(u"frmProbe"_s, nullptr, SlotUse::Takes);
+    QWidget* window = Open(u"frmProbe"_s);
+    window->close();
+    Session::WindowSlotFree = false;
+    window->close();
+    EXPECT_FALSE(Session::WindowSlotFree);
+    Settle();
+    EXPECT_EQ(m_ends, 1);
+}
+
+TEST_F(Registry, AModalWindowHoldsItsCallerAndItsOwnerGetsTheKeyboardBack)
+{
+    RegisterProbe(u"frmProbe"_s, [](ProbeForm& form) { form.Add(u"txtA"_s); });
+    RegisterProbe(u"frmPrompt"_s, [](ProbeForm& form) { form.Add(u"txtNo"_s); });
+    RegisterProbe(u"frmInner"_s, [](ProbeForm& form) { form.Add(u"txtInner"_s); });
+    QWidget* owner = Open(u"frmProbe"_s);
+    QStringList log;
+    QMetaObject::invokeMethod(
+        owner,
+        [&log] {
+            WaitFor([] { return FocusName() == u"txtNo"; });
+            QWidget* prompt = Windows().Find(u"frmPrompt"_s)->Widget();
+            EXPECT_EQ(QApplication::activeModalWidget(), prompt);
+            QMetaObject::invokeMethod(
+                prompt,
+                [&log] {
+                    WaitFor([] { return FocusName() == u"txtInner"; });
+                    Windows().Find(u"frmInner"_s)->Widget()->close();
+                    log << u"inner closed"_s;
+                },
+                Qt::QueuedConnection);
+            Windows().ShowModal(u"frmInner"_s, prompt);
+            log << u"inner returned"_s;
+            WaitFor([] { return FocusName() == u"txtNo"; });
+            prompt->close();
+        },
+        Qt::QueuedConnection);
+    Windows().ShowModal(u"frmPrompt"_s, owner);
+    log << u"prompt returned"_s;
+    EXPECT_EQ(log, (QStringList{u"inner closed"_s, u"inner returned"_s, u"prompt returned"_s}));
+    WaitFor([] { return FocusName() == u"txtA"; });
+}
+
+TEST_F(Registry, AFunctionThatTheProgramDoesNotHaveSaysSo)
+{
+    boxes.Expect(u"此功能在本版本中尚未提供。"_s);
+    ShowFunctionWindow(u"frmNoSuchWindow"_s);
+    EXPECT_EQ(Windows().Show(u"frmNoSuchWindow"_s, nullptr), nullptr);
+    Windows().ShowModal(u"frmNoSuchWindow"_s, nullptr);
+    EXPECT_TRUE(Session::WindowSlotFree);
+}
+
+TEST_F(Registry, AFunctionWindowIsOwnedByTheMainWindow)
+{
+    RegisterProbe(u"frmMain"_s, nullptr);
+    RegisterProbe(u"frmProbe"_s, nullptr);
+    EXPECT_EQ(MainFrame(), nullptr);
+    QWidget* frame = Open(u"frmMain"_s);
+    EXPECT_EQ(MainFrame(), frame);
+    ShowFunctionWindow(u"frmProbe"_s);
+    QWidget* window = Windows().Find(u"frmProbe"_s)->Widget();
+    EXPECT_EQ(window->parentWidget(), frame);
+    EXPECT_TRUE(window->isWindow());
+    EXPECT_FALSE(window->isModal());
+}
+
+TEST_F(Registry, AListKnowsItsEditWindow)
+{
+    EXPECT_EQ(RecordFormOf(u"Sales"_s), u"frmSales"_s);
+    EXPECT_EQ(RecordFormOf(u"PRDList"_s), u"frmPRDList"_s);
+    EXPECT_EQ(RecordFormOf(u"Store"_s), QString());
+    EXPECT_EQ(RecordFormOf(QString()), QString());
+}
+
+TEST_F(Registry, ARecordIsLoadedByItsKeyBeforeItsWindowIsSeen)
+{
+    RegisterProbe(u"frmSales"_s, [](ProbeForm& form) {
+        auto* key = form.Add(u"txtSalesID"_s);
+        form.Chain().Field(key);
+        form.onKey = [&form, key](const QString& text) {
+            EXPECT_FALSE(form.isVisible());
+            WriteText(key, text);
+        };
+    });
+    EditRecord(u"Sales"_s, u"07"_s);
+    WaitFor([] { return FocusName() == u"txtSalesID"; });
+    EXPECT_EQ(TextOf(u"frmSales"_s, u"txtSalesID"_s), u"07"_s);
+    EXPECT_EQ(Find(u"frmSales"_s, u"txtSalesID"_s)->selectedText(), u"07"_s);
+
+    EditRecord(u"Store"_s, u"07"_s);
+    boxes.Expect(u"此功能在本版本中尚未提供。"_s);
+    EditRecord(u"FeeType"_s, u"07"_s);
+}
+
+TEST_F(Registry, AnEditWindowThatClosesOnLoadingIsNotLoadedTwice)
+{
+    int loads = 0;
+    RegisterProbe(u"frmSales"_s, [&loads](ProbeForm& form) {
+        form.onLoad = [&loads, &form] {
+            ++loads;
+            form.close();
+        };
+    });
+    EditRecord(u"Sales"_s, u"07"_s);
+    EXPECT_EQ(loads, 1);
+}
+
+TEST_F(Registry, AKeyThatCannotBeReadLeavesTheEditWindowOpenToSee)
+{
+    RegisterProbe(u"frmSales"_s, [](ProbeForm& form) {
+        form.onKey = [](const QString&) { throw RunTimeError(u"坏了"_s); };
+    });
+    EXPECT_THROW(EditRecord(u"Sales"_s, u"'"_s), RunTimeError);
+    ASSERT_NE(Windows().Find(u"frmSales"_s), nullptr);
+    EXPECT_TRUE(Windows().Find(u"frmSales"_s)->Widget()->isVisible());
+}
+
+TEST_F(Registry, AnOwnedWindowStandsOverTheMiddleOfItsOwner)
+{
+    RegisterProbe(u"frmOwner"_s, [](ProbeForm& form) { form.resize(900, 600); });
+    RegisterProbe(u"frmOwned"_s, nullptr);
+    QWidget* owner = Open(u"frmOwner"_s);
+    Form* owned = Windows().Show(u"frmOwned"_s, owner);
+    const QPoint distance = owned->Widget()->geometry().center() - owner->geometry().center();
+    EXPECT_LT(distance.manhattanLength(), 5);
 }
