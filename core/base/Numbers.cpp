@@ -12,6 +12,8 @@ namespace {
 
 // What DECIMAL(20,6) holds before the point.
 constexpr double LargestStored = 1e14;
+// And behind it.
+constexpr int ColumnDecimals = 6;
 
 /// A value taken apart: 0.DIGITS x 10^point, without a sign.
 struct DecimalDigits {
@@ -90,6 +92,11 @@ QString SqlNumber(double value)
 double Settled(double value)
 {
     return NumberText(value).toDouble();
+}
+
+double AtColumnScale(double value)
+{
+    return RoundedText(value, ColumnDecimals, false).toDouble();
 }
 
 QString RoundedText(double value, int decimals, bool grouped)

@@ -20,6 +20,10 @@ QString SqlNumber(double value);
 /// The value of NumberText(value): takes the noise of binary sums off before a compare or a rounding.
 double Settled(double value);
 
+/// The value at the six decimals that every number column holds. For sums and differences of column
+/// values this is the exact result: 50.3 - 50.2 is 0.1, the noise of which sits too far up for Settled.
+double AtColumnScale(double value);
+
 /// The text rounded to `decimals` places, halves away from zero, on the decimal digits that NumberText
 /// shows (0.25 gives "0.3", 1.005 at two places "1.01"). A result of zero carries no sign.
 /// With `grouped`, the integer part has a comma every three digits.
