@@ -43,7 +43,7 @@ int main(int argc, char** argv)
     QTranslator words;
     if (words.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&words);
-    InstallFonts(application);
+    InstallSkin(application);
 
     RegisterWindows();
     Windows().SetAllUnloadedHandler([] { QApplication::quit(); });

@@ -6,22 +6,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The value that starts at `at`: up to the closing brace or the next ";". Moves `at` behind it.
+/// The value in braces that opens at `open`: up to the closing brace, a doubled one standing for itself.
+/// Sets `end` to the closing brace, or behind the text.
+QString BracedValue(const QString& text, qsizetype open, qsizetype& end)
+{
+    QString value;
+    for (end = open + 1; end < text.size(); ++end) {
+        if (text[end] == u'}') {
+            if (text.mid(end + 1, 1) != u"}")
+                break;
+            ++end;
+        }
+        value += text[end];
+    }
+    return value;
+}
+
+/// The value that starts at `at`, bare or in braces. Moves `at` behind the ";" that ends it.
 QString TakeValue(const QString& text, qsizetype& at)
 {
-    if (text.mid(at).trimmed().startsWith(u'{')) {
-        const auto open = text.indexOf(u'{', at);
-        auto close = text.indexOf(u'}', open);
-        if (close < 0)
-            close = text.size();
-        const auto next = text.indexOf(u';', close);
-        at = next < 0 ? text.size() : next + 1;
-        return text.mid(open + 1, close - open - 1);
-    }
-    auto end = text.indexOf(u';', at);
-    if (end < 0)
-        end = text.size();
-    const QString value = text.mid(at, end - at).trimmed();
+    while (at < text.size() && text[at].isSpace())
+        ++at;
+    QString value;
+    qsizetype end = at;
+    const bool isBraced = text.mid(at, 1) == u"{";
+    if (isBraced)
+        value = BracedValue(text, at, end);
+    const auto semicolon = text.indexOf(u';', qMin(end, text.size()));
+    end = semicolon < 0 ? text.size() : semicolon;
+    if (!isBraced)
+        value = text.mid(at, end - at).trimmed();
     at = end + 1;
     return value;
 }
