@@ -37,7 +37,14 @@ void EditRecord(const QString& menuKey, const QString& key)
     const QString name = RecordFormOf(menuKey);
     if (name.isEmpty())
         return;
-    if (Form* form = Windows().Load(name, MainFrame()))
-        form->SetKey(key);
+    if (Form* form = Windows().Load(name, MainFrame())) {
+        try {
+            form->SetKey(key);
+        } catch (...) {
+            // Left loaded and unseen it would hold the slot with nothing to close.
+            ShowFunctionWindow(name);
+            throw;
+        }
+    }
     ShowFunctionWindow(name);
 }
