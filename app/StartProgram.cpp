@@ -11,7 +11,12 @@
 #include "core/logon/frmMultiLogon.h"
 #include "core/logon/frmSpash.h"
 #include "core/session/SessionControl.h"
+#include "masterdata/frmCustList.h"
+#include "masterdata/frmFeeType.h"
+#include "masterdata/frmGetCustList.h"
+#include "masterdata/frmPRDSort.h"
 #include "masterdata/frmSales.h"
+#include "masterdata/frmStore.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 
@@ -35,7 +40,12 @@ void RegisterWindows()
     Add<frmSpash>(u"frmSpash"_s);
     Add<frmMain>(u"frmMain"_s);
     Add<frmAbout>(u"frmAbout"_s);
+    Add<frmStore>(u"frmStore"_s);
     Add<frmSales>(u"frmSales"_s);
+    Add<frmPRDSort>(u"frmPRDSort"_s);
+    Add<frmFeeType>(u"frmFeeType"_s);
+    Add<frmCustList>(u"frmCustList"_s);
+    Add<frmGetCustList>(u"frmGetCustList"_s);
 }
 
 bool StartProgram()

@@ -4,15 +4,15 @@
 
 double LotStock::Arrived() const
 {
-    return AtColumnScale(delivered + added);
+    return Settled(delivered + added);
 }
 
 double LotStock::StayedForSale() const
 {
-    return AtColumnScale(delivered + added - movedOut - lost);
+    return Settled(delivered + added - movedOut - lost);
 }
 
 double LotStock::Left() const
 {
-    return AtColumnScale(delivered + added - movedOut - lost - sold);
+    return Settled(delivered + added - movedOut - lost - sold);
 }

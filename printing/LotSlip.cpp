@@ -34,7 +34,7 @@ double LotSlipStock(const LotSlip& slip)
     const double added = StockChange(slip.lotId, u"0"_s);
     const double movedOut = StockChange(slip.lotId, u"1"_s);
     const double lost = StockChange(slip.lotId, u"2"_s);
-    return AtColumnScale(slip.num + added - movedOut - lost);
+    return Settled(slip.num + added - movedOut - lost);
 }
 
 void FillLotSlip(const LotSlip& slip)

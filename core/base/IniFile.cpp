@@ -13,7 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class Encoding { Utf8, Utf8WithMark, Gb18030 };
+enum class Encoding {
+    Utf8,
+    Utf8WithMark,
+    Gb18030,
+    Bytes, ///< neither of them: each byte stands as one character, so that it is written as it was read
+};
 
 struct IniText {
     QStringList lines;
@@ -38,11 +43,12 @@ std::optional<IniText> Load(const QString& path)
     QString text = utf8(bytes);
     if (utf8.hasError() && ini.encoding == Encoding::Utf8) {
         QStringDecoder chinese("GB18030");
-        if (chinese.isValid()) {
+        if (chinese.isValid())
             text = chinese(bytes);
-            ini.encoding = Encoding::Gb18030;
-        }
+        ini.encoding = chinese.isValid() && !chinese.hasError() ? Encoding::Gb18030 : Encoding::Bytes;
     }
+    if (ini.encoding == Encoding::Bytes)
+        text = QString::fromLatin1(bytes);
     if (text.contains(u"\r\n"_s))
         ini.lineEnd = u"\r\n"_s;
     text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n');
@@ -59,6 +65,8 @@ void Save(const QString& path, const IniText& ini)
     if (ini.encoding == Encoding::Gb18030) {
         QStringEncoder chinese("GB18030");
         bytes = chinese(text);
+    } else if (ini.encoding == Encoding::Bytes) {
+        bytes = text.toLatin1();
     } else {
         bytes =
             (ini.encoding == Encoding::Utf8WithMark ? Utf8Mark.toByteArray() : QByteArray()) + text.toUtf8();
@@ -127,6 +135,8 @@ QString ReadIniValue(const QString& file, const QString& section, const QString&
     if (place.key < 0)
         return fallback;
     QString value = ini->lines[place.key].section(u'=', 1).trimmed();
+    if (ini->encoding == Encoding::Bytes)
+        value = QString::fromUtf8(value.toLatin1());
     const bool quoted = value.size() >= 2 && (value.startsWith(u'"') || value.startsWith(u'\'')) &&
                         value.back() == value.front();
     if (quoted)
@@ -138,7 +148,9 @@ void WriteIniValue(const QString& file, const QString& section, const QString& k
 {
     IniText ini = Load(file).value_or(IniText());
     const Place place = Find(ini, section, key);
-    const QString line = key + u'=' + value;
+    QString line = key + u'=' + value;
+    if (ini.encoding == Encoding::Bytes)
+        line = QString::fromLatin1(line.toUtf8());
     if (place.key >= 0) {
         ini.lines[place.key] = line;
     } else if (place.sectionEnd >= 0) {

@@ -11,9 +11,11 @@
 namespace {
 
 // What DECIMAL(20,6) holds before the point.
-constexpr double LargestStored = 1e14;
-// And behind it.
-constexpr int ColumnDecimals = 6;
+constexpr int StoredWholeDigits = 14;
+
+// A difference of two nearly equal numbers keeps the noise of the larger ones: 50.3 - 50.2 is wrong in
+// its fourteenth digit. Behind the ninth place nothing but noise is left of yuan, kilograms and pieces.
+constexpr int SettledDecimals = 9;
 
 /// A value taken apart: 0.DIGITS x 10^point, without a sign.
 struct DecimalDigits {
@@ -84,19 +86,15 @@ QString NumberText(double value)
 
 QString SqlNumber(double value)
 {
-    if (!(std::fabs(value) < LargestStored))
+    QString text = NumberText(value);
+    if (TakeApart(value).point > StoredWholeDigits)
         throw OverflowError();
-    return NumberText(value);
+    return text;
 }
 
 double Settled(double value)
 {
-    return NumberText(value).toDouble();
-}
-
-double AtColumnScale(double value)
-{
-    return RoundedText(value, ColumnDecimals, false).toDouble();
+    return RoundedText(value, SettledDecimals, false).toDouble();
 }
 
 QString RoundedText(double value, int decimals, bool grouped)

@@ -17,12 +17,9 @@ QString NumberText(double value);
 /// finite or has more than fourteen digits before the point, which no number column holds.
 QString SqlNumber(double value);
 
-/// The value of NumberText(value): takes the noise of binary sums off before a compare or a rounding.
+/// The value with fifteen significant digits and nine places: takes the noise of binary sums off before
+/// a compare or a rounding, so that 50.3 - 50.2 is not below 0.1 and 0.8 - (0.7 + 0.1) is 0.
 double Settled(double value);
-
-/// The value at the six decimals that every number column holds. For sums and differences of column
-/// values this is the exact result: 50.3 - 50.2 is 0.1, the noise of which sits too far up for Settled.
-double AtColumnScale(double value);
 
 /// The text rounded to `decimals` places, halves away from zero, on the decimal digits that NumberText
 /// shows (0.25 gives "0.3", 1.005 at two places "1.01"). A result of zero carries no sign.

@@ -4,8 +4,10 @@
 #include "core/common/Messages.h"
 
 #include <QLineEdit>
+#include <QPointer>
 
 #include <utility>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +15,17 @@ namespace {
 
 int depth = 0;
 std::exception_ptr keptFailure;
+
+int underWay = 0; // handlers on the stack, those that wait for a nested loop included
+std::vector<QPointer<QObject>> closedWindows;
+
+void DestroyClosedWindows()
+{
+    for (const QPointer<QObject>& window : std::exchange(closedWindows, {})) {
+        if (window)
+            window->deleteLater();
+    }
+}
 
 void ShowFailure(const std::exception_ptr& failure)
 {
@@ -30,6 +43,7 @@ void ShowFailure(const std::exception_ptr& failure)
 void RunHandler(const std::function<void()>& handler)
 {
     ++depth;
+    ++underWay;
     std::exception_ptr failure;
     try {
         handler();
@@ -40,11 +54,21 @@ void RunHandler(const std::function<void()>& handler)
     if (depth > 0) {
         if (failure && !keptFailure)
             keptFailure = failure;
-        return;
+    } else {
+        const std::exception_ptr kept = std::exchange(keptFailure, nullptr);
+        if (failure || kept)
+            ShowFailure(failure ? failure : kept);
     }
-    const std::exception_ptr kept = std::exchange(keptFailure, nullptr);
-    if (failure || kept)
-        ShowFailure(failure ? failure : kept);
+    if (--underWay == 0)
+        DestroyClosedWindows();
+}
+
+void DestroyWhenIdle(QObject* window)
+{
+    if (underWay == 0)
+        window->deleteLater();
+    else
+        closedWindows.emplace_back(window);
 }
 
 void WriteText(QLineEdit* box, const QString& text)

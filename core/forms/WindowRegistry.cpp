@@ -52,11 +52,13 @@ void WindowRegistry::ShowModal(const QString& name, QWidget* owner)
     {
         const NestedLoop nested;
         QEventLoop loop;
-        QObject::connect(form->Widget(), &QObject::destroyed, &loop, &QEventLoop::quit);
+        m_modalLoops.push_back({form, &loop});
         form->Widget()->setWindowModality(Qt::ApplicationModal);
         form->Widget()->show();
         form->Widget()->activateWindow();
-        loop.exec();
+        if (Find(name) == form)
+            loop.exec();
+        m_modalLoops.pop_back();
     }
     if (below)
         below->activateWindow();
@@ -65,6 +67,10 @@ void WindowRegistry::ShowModal(const QString& name, QWidget* owner)
 void WindowRegistry::Unloaded(Form* form)
 {
     m_loaded.removeIf([form](const auto& entry) { return entry.value() == form; });
+    for (const ModalLoop& modal : m_modalLoops) {
+        if (modal.form == form)
+            modal.loop->quit();
+    }
     if (!m_loaded.isEmpty() || !m_allUnloaded)
         return;
     // One window may close just before the next one is loaded: ask again from the event loop.

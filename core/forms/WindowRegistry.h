@@ -6,6 +6,9 @@
 #include <QString>
 
 #include <functional>
+#include <vector>
+
+class QEventLoop;
 
 /// The windows of the program by their names. There is one of each at the most.
 class WindowRegistry {
@@ -39,7 +42,13 @@ public:
     void DropAll();
 
 private:
+    struct ModalLoop {
+        Form* form;
+        QEventLoop* loop;
+    };
+
     QHash<QString, Factory> m_factories;
+    std::vector<ModalLoop> m_modalLoops; ///< windows shown modally, the topmost last
     QHash<QString, Form*> m_loaded;
     std::function<void()> m_allUnloaded;
 };

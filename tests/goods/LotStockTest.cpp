@@ -1,5 +1,4 @@
 #include "goods/LotStock.h"
-#include "core/base/Numbers.h"
 
 #include <gtest/gtest.h>
 
@@ -22,12 +21,4 @@ TEST(LotStock, ShowsDifferencesOfDecimalsWithoutBinaryNoise)
     const LotStock stock{.delivered = 50.3, .sold = 50.2};
     EXPECT_EQ(stock.Left(), 0.1);
     EXPECT_EQ((LotStock{.delivered = 0.3, .movedOut = 0.1, .lost = 0.2}.StayedForSale()), 0);
-}
-
-TEST(AtColumnScale, KeepsSixDecimalsAndTheSign)
-{
-    EXPECT_EQ(AtColumnScale(50.3 - 50.2), 0.1);
-    EXPECT_EQ(AtColumnScale(0.1234567), 0.123457);
-    EXPECT_EQ(AtColumnScale(-0.1 - 0.2), -0.3);
-    EXPECT_EQ(AtColumnScale(12345678.5), 12345678.5);
 }

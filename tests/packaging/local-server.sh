@@ -22,6 +22,7 @@ checking "no TCP, utf8mb4, closed to other accounts of the machine, nothing besi
 same "networking" "ON utf8mb4 utf8mb4_general_ci" "$(sql mysql "SELECT CONCAT_WS(' ',@@skip_networking,@@character_set_server,@@collation_server)")"
 same "mode of the folder" 700 "$(stat -c %a "$work/db")"
 same "unfinished data" "" "$(find "$work/db" -maxdepth 1 -name 'data.*')"
+same "temporary tables" "$work/db/tmp" "$(sql mysql "SELECT @@tmpdir")"
 same "test database" 0 "$(sql mysql "SELECT COUNT(*) FROM information_schema.SCHEMATA WHERE SCHEMA_NAME='test'")"
 
 checking "a second start finds it running"
