@@ -11,6 +11,9 @@
 #include "core/logon/frmMultiLogon.h"
 #include "core/logon/frmSpash.h"
 #include "core/session/SessionControl.h"
+#include "goods/frmDataList.h"
+#include "goods/frmPRDList.h"
+#include "goods/frmSearchPRD.h"
 #include "masterdata/frmCustList.h"
 #include "masterdata/frmFeeType.h"
 #include "masterdata/frmGetCustList.h"
@@ -46,6 +49,9 @@ void RegisterWindows()
     Add<frmFeeType>(u"frmFeeType"_s);
     Add<frmCustList>(u"frmCustList"_s);
     Add<frmGetCustList>(u"frmGetCustList"_s);
+    Add<frmDataList>(u"frmDataList"_s);
+    Add<frmSearchPRD>(u"frmSearchPRD"_s);
+    Add<frmPRDList>(u"frmPRDList"_s);
 }
 
 bool StartProgram()
