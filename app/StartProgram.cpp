@@ -17,6 +17,8 @@
 #include "masterdata/frmPRDSort.h"
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
+#include "settlement/frmCheckOut.h"
+#include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 
@@ -46,6 +48,8 @@ void RegisterWindows()
     Add<frmFeeType>(u"frmFeeType"_s);
     Add<frmCustList>(u"frmCustList"_s);
     Add<frmGetCustList>(u"frmGetCustList"_s);
+    Add<frmCheckOut>(u"frmCheckOut"_s);
+    Add<frmCheckOutA>(u"frmCheckOutA"_s);
 }
 
 bool StartProgram()
