@@ -20,6 +20,8 @@
 #include "masterdata/frmPRDSort.h"
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
+#include "settlement/frmCheckOut.h"
+#include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 
@@ -52,6 +54,8 @@ void RegisterWindows()
     Add<frmDataList>(u"frmDataList"_s);
     Add<frmSearchPRD>(u"frmSearchPRD"_s);
     Add<frmPRDList>(u"frmPRDList"_s);
+    Add<frmCheckOut>(u"frmCheckOut"_s);
+    Add<frmCheckOutA>(u"frmCheckOutA"_s);
 }
 
 bool StartProgram()
