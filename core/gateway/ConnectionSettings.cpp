@@ -6,18 +6,29 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The value between braces, a closing brace inside it being written twice. `open` is the place of the
+/// opening one; moves `at` behind the value.
+QString TakeBraced(const QString& text, qsizetype open, qsizetype& at)
+{
+    QString value;
+    qsizetype i = open + 1;
+    for (; i < text.size(); ++i) {
+        if (text[i] == u'}' && !(i + 1 < text.size() && text[i + 1] == u'}'))
+            break;
+        if (text[i] == u'}')
+            ++i;
+        value += text[i];
+    }
+    const auto next = text.indexOf(u';', i);
+    at = next < 0 ? text.size() : next + 1;
+    return value;
+}
+
 /// The value that starts at `at`: up to the closing brace or the next ";". Moves `at` behind it.
 QString TakeValue(const QString& text, qsizetype& at)
 {
-    if (text.mid(at).trimmed().startsWith(u'{')) {
-        const auto open = text.indexOf(u'{', at);
-        auto close = text.indexOf(u'}', open);
-        if (close < 0)
-            close = text.size();
-        const auto next = text.indexOf(u';', close);
-        at = next < 0 ? text.size() : next + 1;
-        return text.mid(open + 1, close - open - 1);
-    }
+    if (text.mid(at).trimmed().startsWith(u'{'))
+        return TakeBraced(text, text.indexOf(u'{', at), at);
     auto end = text.indexOf(u';', at);
     if (end < 0)
         end = text.size();
