@@ -12,8 +12,10 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int ColumnWidth = 50; // characters of the key and the name column
-}
+// Characters that the columns hold: the server would cut a longer text without a word.
+constexpr int KeyWidth = 30;
+constexpr int NameWidth = 60;
+} // namespace
 
 CodeTableForm::CodeTableForm(QWidget* owner, Table table)
     : FormWindow(owner, SlotUse::Takes), m_table(std::move(table))
@@ -22,8 +24,8 @@ CodeTableForm::CodeTableForm(QWidget* owner, Table table)
 void CodeTableForm::Wire(const Controls& controls)
 {
     m_controls = controls;
-    Chain().Field(controls.key).AtMost(ColumnWidth).OnChange([this] { LookUp(); });
-    Chain().Field(controls.name).AtMost(ColumnWidth).OnEnter([this] { Save(); });
+    Chain().Field(controls.key).AtMost(KeyWidth).OnChange([this] { LookUp(); });
+    Chain().Field(controls.name).AtMost(NameWidth).OnEnter([this] { Save(); });
     OnPress(controls.submit, [this] { Save(); });
     OnPress(controls.cancel, [this] { close(); });
 }
@@ -35,6 +37,7 @@ void CodeTableForm::SetKey(const QString& key)
 
 void CodeTableForm::LookUp()
 {
+    m_isFound = false; // also when the lookup fails: an update of a missing row would save nothing
     const RecordSet row =
         Gateway().SelectRows(m_table.table, m_table.nameColumn,
                              m_table.keyColumn + u"='"_s + m_controls.key->text().trimmed() + u"'"_s);

@@ -30,6 +30,8 @@ public:
     virtual void TakeName(const QString& /*name*/) {}
     /// Rebuilds the window's list.
     virtual void RefreshList() {}
+    /// Text behind the where-clause of the window's list, from the next rebuild on: "" or " And ...".
+    virtual void SetSearchClause(const QString& /*clause*/) {}
     /// The key of the selected row of the window's list, that is its sub-item 1; none without a row.
     virtual std::optional<QString> SelectedKey() const { return std::nullopt; }
 };

@@ -12,12 +12,13 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-QKeySequence UsualKey(const LabelButton* button)
+QKeySequence UsualKey(const QWidget* button)
 {
     if (button->objectName() == u"cmdSubmit")
         return QKeySequence(u"Alt+S"_s);
@@ -39,7 +40,6 @@ FormWindow::FormWindow(QWidget* owner, SlotUse slot)
 
 FormWindow::~FormWindow()
 {
-    // A window that goes with its owner was never closed.
     if (!m_isClosed)
         Windows().Unloaded(this);
 }
@@ -60,9 +60,15 @@ void FormWindow::OnPress(LabelButton* button, std::function<void()> action, cons
     });
 }
 
-void FormWindow::OnPress(QAbstractButton* button, std::function<void()> action)
+void FormWindow::OnPress(QAbstractButton* button, std::function<void()> action, const QKeySequence& key)
 {
     connect(button, &QAbstractButton::clicked, this, [action = std::move(action)] { RunHandler(action); });
+    const QKeySequence own = key.isEmpty() ? UsualKey(button) : key;
+    if (own.isEmpty())
+        return;
+    // A shortcut of the button itself would press it a tenth of a second late, behind what is typed next.
+    connect(new QShortcut(own, this), &QShortcut::activated, button, &QAbstractButton::click);
+    button->setToolTip(own.toString(QKeySequence::NativeText));
 }
 
 void FormWindow::Guarded(const QString& label, const std::function<void()>& routine)

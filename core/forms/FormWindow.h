@@ -28,6 +28,7 @@ class FormWindow : public QWidget, public Form {
 public:
     /// The windows are dialogs of their owner, without blocking it.
     FormWindow(QWidget* owner, SlotUse slot);
+    /// A window that goes with its owner, without closing, leaves the registry here.
     ~FormWindow() override;
 
     QWidget* Widget() override { return this; }
@@ -38,7 +39,8 @@ protected:
     /// A button's action. A label button gets its key: 确定 and 保存 Alt+S, 关闭 and 取消 Alt+C, unless
     /// another is given.
     void OnPress(LabelButton* button, std::function<void()> action, const QKeySequence& key = {});
-    void OnPress(QAbstractButton* button, std::function<void()> action);
+    /// A command button takes the focus and the same keys; its tool tip tells which.
+    void OnPress(QAbstractButton* button, std::function<void()> action, const QKeySequence& key = {});
 
     /// A saving routine. The focus moves it makes leave no field. On a failure its description is shown,
     /// a row goes to ErrInfo under `label`, and the routine is over; what already ran stays.

@@ -6,6 +6,7 @@
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -143,6 +144,11 @@ FieldRule& KeyChain::Check(QCheckBox* check)
     return Append(check);
 }
 
+FieldRule& KeyChain::List(QAbstractItemView* list)
+{
+    return Append(list);
+}
+
 FieldRule* KeyChain::RuleOf(const QObject* control) const
 {
     const auto found = std::find_if(m_rules.begin(), m_rules.end(),
@@ -195,18 +201,19 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
         return true;
     }
     const auto* combo = qobject_cast<QComboBox*>(rule.m_control);
+    const auto* list = qobject_cast<QAbstractItemView*>(rule.m_control);
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
         RunHandler([this, &rule] { MoveOn(rule, true); });
         return true;
     case Qt::Key_Down:
-        if (combo)
+        if (combo || list)
             return false;
         RunHandler([this, &rule] { MoveOn(rule, false); });
         return true;
     case Qt::Key_Up:
-        if (combo && combo->currentIndex() > 0)
+        if ((combo && combo->currentIndex() > 0) || (list && list->currentIndex().row() > 0))
             return false;
         RunHandler([this, &rule] { MoveBack(rule); });
         return true;

@@ -10,6 +10,7 @@
 #include <optional>
 #include <vector>
 
+class QAbstractItemView;
 class QCheckBox;
 class QComboBox;
 class QKeyEvent;
@@ -96,6 +97,8 @@ public:
     /// In a combo box Up and Down choose; Up leaves it from the first entry only.
     FieldRule& Combo(QComboBox* combo);
     FieldRule& Check(QCheckBox* check);
+    /// In a list Up and Down choose; Up leaves it from the first row only.
+    FieldRule& List(QAbstractItemView* list);
 
     /// Puts the focus back on a control once the present event has run its course, with its text
     /// selected. Until then nothing counts as left.

@@ -27,18 +27,18 @@ const QString& StyleSheet()
 
 } // namespace
 
-void InstallFonts(QApplication& application)
+void InstallSkin(QApplication& application)
 {
     // Left to plain fallback, the system picks Japanese forms of the glyphs.
     QFont::insertSubstitution(u"宋体"_s, u"Noto Serif CJK SC"_s);
     QFont font(u"Noto Sans CJK SC"_s);
     font.setPointSize(11);
     QApplication::setFont(font);
-    application.setEffectEnabled(Qt::UI_AnimateMenu, false);
+    QApplication::setStyle(u"Fusion"_s); // looks alike on every desktop
+    application.setStyleSheet(StyleSheet());
 }
 
 void ApplyWindowSkin(QWidget* form)
 {
     form->setAttribute(Qt::WA_StyledBackground);
-    form->setStyleSheet(StyleSheet());
 }

@@ -3,8 +3,9 @@
 class QApplication;
 class QWidget;
 
-/// Fonts of the whole program: simplified Chinese faces by name, 宋体 mapped to one that exists here.
-void InstallFonts(QApplication& application);
+/// The look of the whole program, once at its start: simplified Chinese faces by name, 宋体 mapped to one
+/// that exists here, one style and one style sheet on every desktop.
+void InstallSkin(QApplication& application);
 
-/// The common look of a window: the grey ground, white fields, locked fields grey, the focus ringed.
+/// Dresses one window in the common look: the grey ground RGB(223,223,223) of the style sheet.
 void ApplyWindowSkin(QWidget* form);

@@ -6,33 +6,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The value between braces, a closing brace inside it being written twice. `open` is the place of the
-/// opening one; moves `at` behind the value.
-QString TakeBraced(const QString& text, qsizetype open, qsizetype& at)
+/// The value in braces that opens at `open`: up to the closing brace, a doubled one standing for itself.
+/// Sets `end` to the closing brace, or behind the text.
+QString BracedValue(const QString& text, qsizetype open, qsizetype& end)
 {
     QString value;
-    qsizetype i = open + 1;
-    for (; i < text.size(); ++i) {
-        if (text[i] == u'}' && !(i + 1 < text.size() && text[i + 1] == u'}'))
-            break;
-        if (text[i] == u'}')
-            ++i;
-        value += text[i];
+    for (end = open + 1; end < text.size(); ++end) {
+        if (text[end] == u'}') {
+            if (text.mid(end + 1, 1) != u"}")
+                break;
+            ++end;
+        }
+        value += text[end];
     }
-    const auto next = text.indexOf(u';', i);
-    at = next < 0 ? text.size() : next + 1;
     return value;
 }
 
-/// The value that starts at `at`: up to the closing brace or the next ";". Moves `at` behind it.
+/// The value that starts at `at`, bare or in braces. Moves `at` behind the ";" that ends it.
 QString TakeValue(const QString& text, qsizetype& at)
 {
-    if (text.mid(at).trimmed().startsWith(u'{'))
-        return TakeBraced(text, text.indexOf(u'{', at), at);
-    auto end = text.indexOf(u';', at);
-    if (end < 0)
-        end = text.size();
-    const QString value = text.mid(at, end - at).trimmed();
+    while (at < text.size() && text[at].isSpace())
+        ++at;
+    QString value;
+    qsizetype end = at;
+    const bool isBraced = text.mid(at, 1) == u"{";
+    if (isBraced)
+        value = BracedValue(text, at, end);
+    const auto semicolon = text.indexOf(u';', qMin(end, text.size()));
+    end = semicolon < 0 ? text.size() : semicolon;
+    if (!isBraced)
+        value = text.mid(at, end - at).trimmed();
     at = end + 1;
     return value;
 }

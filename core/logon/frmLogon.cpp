@@ -72,8 +72,9 @@ void frmLogon::ConnectAsWorkstation()
                          [form = QPointer<frmLogon>(this)](const std::optional<QString>& date) {
                              if (date)
                                  Session::ServerDate = *date;
-                             if (form && form->isEnabled())
-                                 RunHandler([form, date] { form->ServerDateArrived(date); });
+                             frmLogon* waiting = form;
+                             if (waiting && waiting->isEnabled())
+                                 RunHandler([waiting, &date] { waiting->ServerDateArrived(date); });
                          });
     Gateway().OpenConnection(Session::DataIniPath);
 }

@@ -31,7 +31,7 @@ int main(int argc, char** argv)
     qInstallMessageHandler(Listen);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    InstallFonts(application);
+    InstallSkin(application);
     ::testing::InitGoogleTest(&argc, argv);
     const int result = RUN_ALL_TESTS();
     TestServer::Instance().Stop();

@@ -1,0 +1,65 @@
+#include "app/StartProgram.h"
+
+#include "core/base/IniFile.h"
+#include "core/base/Numbers.h"
+#include "core/base/ProgramFiles.h"
+#include "core/base/RunTimeError.h"
+#include "core/common/Messages.h"
+#include "core/forms/WindowRegistry.h"
+#include "core/logon/frmDBC.h"
+#include "core/logon/frmLogon.h"
+#include "core/logon/frmMultiLogon.h"
+#include "core/logon/frmSpash.h"
+#include "core/session/SessionControl.h"
+#include "masterdata/frmCustList.h"
+#include "masterdata/frmFeeType.h"
+#include "masterdata/frmGetCustList.h"
+#include "masterdata/frmPRDSort.h"
+#include "masterdata/frmSales.h"
+#include "masterdata/frmStore.h"
+#include "shell/frmAbout.h"
+#include "shell/frmMain.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+template <typename Window>
+void Add(const QString& name)
+{
+    Windows().Register(name, [](QWidget* owner) -> Form* { return new Window(owner); });
+}
+
+} // namespace
+
+void RegisterWindows()
+{
+    Add<frmLogon>(u"frmLogon"_s);
+    Add<frmMultiLogon>(u"frmMultiLogon"_s);
+    Add<frmDBC>(u"frmDBC"_s);
+    Add<frmSpash>(u"frmSpash"_s);
+    Add<frmMain>(u"frmMain"_s);
+    Add<frmAbout>(u"frmAbout"_s);
+    Add<frmStore>(u"frmStore"_s);
+    Add<frmSales>(u"frmSales"_s);
+    Add<frmPRDSort>(u"frmPRDSort"_s);
+    Add<frmFeeType>(u"frmFeeType"_s);
+    Add<frmCustList>(u"frmCustList"_s);
+    Add<frmGetCustList>(u"frmGetCustList"_s);
+}
+
+bool StartProgram()
+{
+    try {
+        if (!FileExists(ConfigIniPath())) {
+            ShowInfo(u"系统配置文件未找到，程序中止。"_s);
+            return false;
+        }
+        const auto sets = ToInt16(LeadingNumber(ReadIniValue(ConfigIniPath(), u"Define"_s, u"AccNum"_s)));
+        return Windows().Show(sets < 2 ? u"frmLogon"_s : u"frmMultiLogon"_s, nullptr) != nullptr ||
+               Windows().Find(u"frmDBC"_s) != nullptr;
+    } catch (const RunTimeError& error) {
+        ShowErrorMessage(error.Description());
+        return false;
+    }
+}

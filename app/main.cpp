@@ -1,0 +1,51 @@
+#include "app/StartProgram.h"
+#include "core/common/Handlers.h"
+#include "core/forms/Skin.h"
+#include "core/forms/WindowRegistry.h"
+
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Handlers catch their own failures. What escapes them all is taken here, where events are dispatched:
+/// one box, and the program goes on.
+class Application : public QApplication {
+public:
+    using QApplication::QApplication;
+
+    bool notify(QObject* receiver, QEvent* event) override
+    {
+        bool result = false;
+        try {
+            result = QApplication::notify(receiver, event);
+        } catch (...) {
+            const std::exception_ptr failure = std::current_exception();
+            RunHandler([&failure] { std::rethrow_exception(failure); });
+        }
+        return result;
+    }
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    Application application(argc, argv);
+    QApplication::setApplicationName(u"orvane"_s);
+    // A window that is loaded but not shown keeps the process alive; the registry tells the end.
+    QApplication::setQuitOnLastWindowClosed(false);
+    QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
+    QTranslator words;
+    if (words.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&words);
+    InstallSkin(application);
+
+    RegisterWindows();
+    Windows().SetAllUnloadedHandler([] { QApplication::quit(); });
+    return StartProgram() ? QApplication::exec() : 1;
+}

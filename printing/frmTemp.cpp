@@ -1,0 +1,72 @@
+#include "printing/frmTemp.h"
+
+#include "core/base/Clock.h"
+#include "core/base/Numbers.h"
+#include "core/common/Formats.h"
+#include "core/common/Lookups.h"
+#include "core/session/Session.h"
+#include "printing/LotSlip.h"
+#include "ui_frmTemp.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<frmTemp>& Instance()
+{
+    static std::unique_ptr<frmTemp> instance;
+    return instance;
+}
+
+} // namespace
+
+frmTemp::frmTemp() : ui(std::make_unique<Ui::frmTemp>())
+{
+    ui->setupUi(this);
+    ShowHeadings();
+}
+
+frmTemp::~frmTemp() = default;
+
+frmTemp& frmTemp::Load()
+{
+    if (!Instance())
+        Instance().reset(new frmTemp);
+    return *Instance();
+}
+
+frmTemp* frmTemp::Loaded()
+{
+    return Instance().get();
+}
+
+void frmTemp::Unload()
+{
+    Instance().reset();
+}
+
+void frmTemp::ShowHeadings()
+{
+    ui->lblCompName->setText(GetCompName() + u"商品登记单"_s);
+    ui->lblReportName->setText(GetDepartName());
+    for (QLabel* heading : {ui->lblCompName, ui->lblReportName}) {
+        heading->adjustSize();
+        heading->move((width() - heading->width()) / 2, heading->y());
+    }
+}
+
+void frmTemp::Fill(const LotSlip& slip, double stock)
+{
+    ui->txtCustDate->setText(LongDate(slip.date));
+    ui->txtCustName->setText(slip.custName);
+    ui->txtPRDNo->setText(slip.prdNo);
+    ui->txtVerifyID->setText(slip.verifyId);
+    ui->txtPRDName->setText(slip.prdName);
+    ui->txtNum->setText(NumberText(stock) + slip.unit);
+    ui->txtMPercent->setText(slip.mPercent);
+    ui->txtPArea->setText(slip.pArea);
+    ui->txtStore->setText(slip.store);
+    ui->txtDebitPrice->setText(FormatMoney(slip.debitPrice));
+    ui->txtMemo->setText(slip.memo);
+    ui->txtUserID->setText(Session::CurrentUserID);
+}

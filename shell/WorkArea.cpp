@@ -1,0 +1,60 @@
+#include "shell/WorkArea.h"
+
+#include "core/base/IniFile.h"
+#include "core/base/ProgramFiles.h"
+
+#include <QFileInfo>
+#include <QMdiSubWindow>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+WorkArea::WorkArea(QWidget* parent) : QMdiArea(parent)
+{
+    setBackground(QColor(0x8d, 0x9b, 0xa8));
+}
+
+void WorkArea::SetCover(const QPixmap& picture)
+{
+    m_cover = picture;
+    viewport()->update();
+}
+
+void WorkArea::Hold(Form* list)
+{
+    QWidget* widget = list->Widget();
+    auto* frame = qobject_cast<QMdiSubWindow*>(widget->parentWidget());
+    if (!frame) {
+        frame = addSubWindow(widget);
+        frame->setAttribute(Qt::WA_DeleteOnClose);
+        // A list may close itself; its frame goes with it.
+        connect(widget, &QObject::destroyed, frame, &QMdiSubWindow::close);
+    }
+    frame->showMaximized();
+    widget->show();
+    setActiveSubWindow(frame);
+    widget->setFocus();
+}
+
+void WorkArea::paintEvent(QPaintEvent* event)
+{
+    QMdiArea::paintEvent(event);
+    if (m_cover.isNull())
+        return;
+    QPainter painter(viewport());
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QRect area = viewport()->rect();
+    QRect target(QPoint(), m_cover.size().scaled(area.size(), Qt::KeepAspectRatioByExpanding));
+    target.moveCenter(area.center());
+    painter.drawPixmap(target, m_cover);
+}
+
+QPixmap LoadCoverPicture()
+{
+    const QString ini = ProgramPath(u"\\Data\\BCover.ini"_s);
+    if (!FileExists(ini) || ReadIniValue(ini, u"Pic"_s, u"PicStatus"_s) != u"1")
+        return {};
+    const QString name = ReadIniValue(ini, u"Pic"_s, u"FileName"_s);
+    const QString path = QFileInfo(name).isAbsolute() ? name : ProgramPath(name);
+    return FileExists(path) ? QPixmap(path) : QPixmap();
+}
