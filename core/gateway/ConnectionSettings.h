@@ -13,7 +13,8 @@ struct ConnectionSettings {
 };
 
 /// Takes a connection text apart: "KEY=value;..." with keys SERVER, DATABASE, UID or USER, PWD or
-/// PASSWORD, PORT, SOCKET in any case, a value bare or in braces; other keys are passed over.
+/// PASSWORD, PORT, SOCKET in any case, a value bare or in braces (a closing brace inside is written
+/// twice); other keys are passed over.
 ConnectionSettings ParseConnectionText(const QString& text);
 
 /// What a connection ini says: the connection text `ConnStr` of the section that `DBType`/`Drive`

@@ -24,6 +24,7 @@ frmLogon::frmLogon(QWidget* owner)
     : FormWindow(owner, SlotUse::Untouched), ui(std::make_unique<Ui::frmLogon>())
 {
     ui->setupUi(this);
+    ui->cmbUserName->setCompleter(nullptr); // a typed name is that name, not the first that begins so
     Chain().Combo(ui->cmbUserName);
     Chain().Field(ui->txtUserPWD).OnEnter([this] { Submit(); });
     OnPress(ui->cmdSubmit, [this] { Submit(); });

@@ -4,6 +4,7 @@
 #include "core/base/IniFile.h"
 #include "core/base/Numbers.h"
 #include "core/base/ProgramFiles.h"
+#include "core/base/RunTimeError.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 
@@ -12,8 +13,19 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
 constexpr std::int16_t PaperA4 = 9; // the printing system's code of A4
+
+void RememberUser(const QString& config)
+{
+    try {
+        WriteIniValue(config, u"Define"_s, u"UserName"_s, Session::CurrentUserName);
+    } catch (const RunTimeError&) {
+        // A program folder that the cashier may not write to costs him the proposed name, not the logon.
+    }
 }
+
+} // namespace
 
 QString ConfigIniPath()
 {
@@ -29,7 +41,7 @@ void StartSession()
                             FormatDate(now.date()) + u"','"_s + FormatTime(now.time()) + u"'"_s);
     const QString config = ConfigIniPath();
     if (Session::ClientFlag == u"1")
-        WriteIniValue(config, u"Define"_s, u"UserName"_s, Session::CurrentUserName);
+        RememberUser(config);
     Session::PaperSizeCode = FileExists(config)
                                  ? ToInt16(LeadingNumber(ReadIniValue(config, u"Define"_s, u"PaperSize"_s)))
                                  : PaperA4;

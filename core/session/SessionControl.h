@@ -6,7 +6,8 @@
 QString ConfigIniPath();
 
 /// The first steps of the main window's load: the User_Status row of this session, the last user's name
-/// in \Config.ini (workstations), the default paper, and the settings kept for the session.
+/// in \Config.ini (workstations, where the file can be written), the default paper, and the settings kept for
+/// the session.
 /// @throws DatabaseError, OverflowError (a paper code beyond sixteen bits)
 void StartSession();
 

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QProcess>
 #include <QTcpServer>
 
 using namespace Qt::StringLiterals;
@@ -362,6 +363,7 @@ TEST(ConnectionText, KeysIgnoreCaseAndValuesMayStandInBraces)
         {u"SERVER"_s, u""_s, u""_s, u""_s, u""_s, u""_s, 0},
         {u"SERVER=;nonsense;UID=u"_s, u""_s, u"u"_s, u""_s, u""_s, u""_s, 0},
         {u"=;=x;SERVER=db;PORT=abc"_s, u"db"_s, u""_s, u""_s, u""_s, u""_s, 0},
+        {u"PWD={a}}b;{c};UID=u;SERVER={x}}}"_s, u"x}"_s, u"u"_s, u"a}b;{c"_s, u""_s, u""_s, 0},
         {u"PWD=密码;UID=用户;SERVER=db"_s, u"db"_s, u"用户"_s, u"密码"_s, u""_s, u""_s, 0},
         {u""_s, u""_s, u""_s, u""_s, u""_s, u""_s, 0},
         {u";"_s, u""_s, u""_s, u""_s, u""_s, u""_s, 0},
@@ -375,6 +377,28 @@ TEST(ConnectionText, KeysIgnoreCaseAndValuesMayStandInBraces)
         EXPECT_EQ(settings.database, c.database) << c.text.toStdString();
         EXPECT_EQ(settings.socket, c.socket) << c.text.toStdString();
         EXPECT_EQ(settings.port, c.port) << c.text.toStdString();
+    }
+}
+
+TEST_F(Gate, WhatTheInstallerWritesIsReadBack)
+{
+    for (const QString& password :
+         {QString(), u"plain"_s, u"a;b=c"_s, u"x}y{z"_s, u" blanks "_s, u"\"q\""_s, u"'s'"_s, u"密码}"_s}) {
+        QProcess tool;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"ORVANE_DB_PASSWORD"_s, password);
+        tool.setProcessEnvironment(environment);
+        tool.start(QString::fromUtf8(ORVANE_SOURCE_DIR) + u"/packaging/connection-ini"_s,
+                   {u"--ini"_s, Ini(), u"--host"_s, u"db.example"_s, u"--port"_s, u"3307"_s, u"--user"_s,
+                    u"till"_s, u"--database"_s, u"Orvane_PUB"_s});
+        ASSERT_TRUE(tool.waitForFinished() && tool.exitCode() == 0)
+            << tool.readAllStandardError().constData();
+        const ConnectionSettings settings = ReadConnectionSettings(Ini());
+        EXPECT_EQ(settings.server, u"db.example"_s);
+        EXPECT_EQ(settings.port, 3307U);
+        EXPECT_EQ(settings.user, u"till"_s);
+        EXPECT_EQ(settings.password, password);
+        EXPECT_EQ(settings.database, u"Orvane_PUB"_s);
     }
 }
 

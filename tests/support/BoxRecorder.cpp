@@ -42,13 +42,14 @@ bool BoxRecorder::Meet(const QString& title, const QString& text, bool isQuestio
 {
     const NestedLoop nested;
     m_seen << text;
+    const bool isExpected = !m_expected.isEmpty();
+    const Expected expected = isExpected ? m_expected.takeFirst() : Expected();
     if (const auto action = std::exchange(m_whileOpen, nullptr))
         action();
-    if (m_expected.isEmpty()) {
+    if (!isExpected) {
         ADD_FAILURE() << "a box nobody expected: " << qPrintable(text);
         return false;
     }
-    const Expected expected = m_expected.takeFirst();
     if (expected.isPart)
         EXPECT_TRUE(text.contains(expected.text)) << qPrintable(text);
     else
