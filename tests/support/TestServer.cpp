@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SourceDir = QString::fromUtf8(ORVANE_SOURCE_DIR);
-
 [[noreturn]] void GiveUp(const QString& why)
 {
     std::fprintf(stderr, "%s\n", qPrintable(why));
@@ -34,12 +32,17 @@ void RunTool(const QString& tool, const QStringList& arguments)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(SourceDir + tool, arguments);
+    process.start(SourceDirectory() + tool, arguments);
     if (!process.waitForFinished(120000) || process.exitCode() != 0)
         GiveUp(tool + u": "_s + QString::fromUtf8(process.readAll()));
 }
 
 } // namespace
+
+QString SourceDirectory()
+{
+    return QString::fromUtf8(ORVANE_SOURCE_DIR);
+}
 
 TestServer& TestServer::Instance()
 {

@@ -6,6 +6,9 @@
 #include <memory>
 #include <vector>
 
+/// Where the sources are, for the tests that run the scripts of packaging/.
+QString SourceDirectory();
+
 /// The private database server of a test run: the one that ORVANE_TEST_SOCKET names, or one that this
 /// process starts in a temporary folder and stops at its end.
 class TestServer {
