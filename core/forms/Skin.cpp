@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QFont>
+#include <QIcon>
+#include <QPainter>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +16,21 @@ static void InitialiseResources()
 }
 
 namespace {
+
+/// An orange on its leaf, for the title bars and the task bar.
+QIcon ProgramIcon()
+{
+    QPixmap picture(64, 64);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(0xe0, 0x7b, 0x00));
+    painter.drawEllipse(QPoint(32, 37), 25, 25);
+    painter.setBrush(QColor(0x2f, 0x8f, 0x5b));
+    painter.drawEllipse(QPoint(41, 10), 14, 7);
+    return QIcon(picture);
+}
 
 const QString& StyleSheet()
 {
@@ -36,6 +53,7 @@ void InstallSkin(QApplication& application)
     QApplication::setFont(font);
     QApplication::setStyle(u"Fusion"_s); // looks alike on every desktop
     application.setStyleSheet(StyleSheet());
+    QApplication::setWindowIcon(ProgramIcon());
 }
 
 void ApplyWindowSkin(QWidget* form)

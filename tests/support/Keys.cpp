@@ -25,7 +25,8 @@ void Settle()
 
 void Press(Qt::Key key, Qt::KeyboardModifiers modifiers)
 {
-    QWidget* focus = QApplication::focusWidget();
+    // Without a focus widget the toolkit gives keys to the active window.
+    QWidget* focus = QApplication::focusWidget() ? QApplication::focusWidget() : QApplication::activeWindow();
     if (!focus) {
         ADD_FAILURE() << "no widget has the focus";
         return;

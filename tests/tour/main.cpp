@@ -340,7 +340,7 @@ void SettleLots(Tour& tour)
         u"SELECT "
         u"PRDNo,Num,Suttle,Amount,ListNum,LManagePrice,LUnloadPrice,LTotalPrice,GTotalPrice,Per_LManage "
         "FROM CheckOut"_s,
-        u"A-001 30.000000 435.500000 603.500000 2 30.200000 13.100000 43.300000 560.200000 5"_s);
+        u"A-001 30.000000 435.500000 603.500000 2.000000 30.200000 13.100000 43.300000 560.200000 5"_s);
     tour.CheckValue(u"SELECT bolCheckOut,Num_Sal FROM PRD_List WHERE PRDNo='A-001'"_s, u"1 70.000000"_s);
     tour.CheckValue(u"SELECT COUNT(*) FROM Sal_List WHERE bolCheckOut='1'"_s, u"2"_s);
 
