@@ -388,7 +388,7 @@ TEST_F(Gate, WhatTheInstallerWritesIsReadBack)
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"ORVANE_DB_PASSWORD"_s, password);
         tool.setProcessEnvironment(environment);
-        tool.start(QString::fromUtf8(ORVANE_SOURCE_DIR) + u"/packaging/connection-ini"_s,
+        tool.start(SourcePath(u"packaging/connection-ini"_s),
                    {u"--ini"_s, Ini(), u"--host"_s, u"db.example"_s, u"--port"_s, u"3307"_s, u"--user"_s,
                     u"till"_s, u"--database"_s, u"Orvane_PUB"_s});
         ASSERT_TRUE(tool.waitForFinished() && tool.exitCode() == 0)

@@ -61,6 +61,19 @@ protected:
     QStringList log;
 };
 
+/// Waits for a message box and presses a key in it; returns its title and text.
+QString AnswerBox(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+{
+    WaitFor([] {
+        return QApplication::activeModalWidget() &&
+               QApplication::activeWindow() == QApplication::activeModalWidget();
+    });
+    const auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    const QString words = box ? box->windowTitle() + u'|' + box->text() : QString();
+    Press(key, modifiers);
+    return words;
+}
+
 [[noreturn]] void Fail()
 {
     throw RunTimeError(u"坏了"_s);
@@ -462,40 +475,46 @@ TEST_F(Chain, ARealBoxIsNoLeavingAndGivesTheKeyboardBack)
 {
     OpenPlain();
     SetMessagePresenter(nullptr);
-    QString caption;
-    bool answer = true;
+    QString words;
     for (const Qt::Key key : {Qt::Key_Y, Qt::Key_N, Qt::Key_Escape}) {
+        const auto modifiers = key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier;
         QMetaObject::invokeMethod(
-            &Form(),
-            [&caption, key] {
-                WaitFor([] {
-                    return QApplication::activeWindow() &&
-                           QApplication::activeWindow() == QApplication::activeModalWidget();
-                });
-                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-                ASSERT_NE(box, nullptr);
-                caption = box->windowTitle() + u'|' + box->text();
-                Press(key, key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier);
-            },
-            Qt::QueuedConnection);
-        answer = AskYesNo(u"真的<b>？"_s);
-        EXPECT_EQ(answer, key == Qt::Key_Y);
-        EXPECT_EQ(caption, u"系统提示|真的<b>？"_s);
+            &Form(), [&words, key, modifiers] { words = AnswerBox(key, modifiers); }, Qt::QueuedConnection);
+        EXPECT_EQ(AskYesNo(u"真的<b>？"_s), key == Qt::Key_Y);
+        EXPECT_EQ(words, u"系统提示|真的<b>？"_s);
         WaitFor([] { return FocusName() == u"txtA"; });
     }
     QMetaObject::invokeMethod(
-        &Form(),
-        [] {
-            WaitFor([] {
-                return QApplication::activeWindow() &&
-                       QApplication::activeWindow() == QApplication::activeModalWidget();
-            });
-            Press(Qt::Key_Return);
-        },
-        Qt::QueuedConnection);
-    ShowInfo(u"好"_s);
+        &Form(), [&words] { words = AnswerBox(Qt::Key_Return); }, Qt::QueuedConnection);
+    ShowInfo(u"好"_s, u"软件提示"_s);
+    EXPECT_EQ(words, u"软件提示|好"_s);
     WaitFor([] { return FocusName() == u"txtA"; });
     EXPECT_EQ(log, QStringList());
+    SetMessagePresenter(&boxes);
+}
+
+TEST_F(Chain, ARefusalInARealBoxComesBackToTheField)
+{
+    OpenWith([this](ProbeForm& form, QLineEdit* a, QLineEdit* b, QLineEdit* /*c*/) {
+        form.Chain().Field(a).OnLeave([this, &form, a] {
+            log << u"left txtA"_s;
+            ShowInfo(u"不存在！"_s);
+            form.Chain().ReturnTo(a);
+        });
+        form.Chain().Field(b).OnLeave(Note(u"left txtB"_s));
+    });
+    SetMessagePresenter(nullptr);
+    for (int i = 1; i <= 2; ++i) {
+        QMetaObject::invokeMethod(
+            &Form(), [] { AnswerBox(Qt::Key_Return); }, Qt::QueuedConnection);
+        if (i == 1)
+            Press(Qt::Key_Return);
+        else
+            Click(Box(u"txtB"_s));
+        WaitFor([] { return FocusName() == u"txtA"; });
+        EXPECT_EQ(log.size(), i);
+        EXPECT_FALSE(log.contains(u"left txtB"_s));
+    }
     SetMessagePresenter(&boxes);
 }
 

@@ -302,3 +302,17 @@ TEST_F(MultiLogon, ANumberOfSetsBeyondSixteenBitsOverflows)
     EXPECT_THROW(Windows().Show(u"frmMultiLogon"_s, nullptr), OverflowError);
     EXPECT_FALSE(IsLoaded(u"frmMultiLogon"_s));
 }
+
+TEST_F(MultiLogon, WithoutANumberOfSetsThereIsNoneToChoose)
+{
+    for (const QString& line : {QString(), u"AccNum=\n"_s, u"AccNum=abc\n"_s, u"AccNum=-2\n"_s}) {
+        WriteProgramFile(u"Config.ini"_s, u"[Define]\nUserName=a\n"_s + line);
+        Open(u"frmMultiLogon"_s);
+        EXPECT_EQ(Find<QComboBox>(u"frmMultiLogon"_s, u"cmbAccName"_s)->count(), 0) << line.toStdString();
+        boxes.Expect(u"数据库配置文件未找到，请检查系统文件的完整性!"_s);
+        Find(u"frmMultiLogon"_s, u"txtUserPWD"_s)->setText(u"1"_s);
+        Press(Qt::Key_S, Qt::AltModifier);
+        Windows().Find(u"frmMultiLogon"_s)->Widget()->close();
+        Settle();
+    }
+}

@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString SourceDir = QString::fromUtf8(ORVANE_SOURCE_DIR);
-
 [[noreturn]] void GiveUp(const QString& why)
 {
     std::fprintf(stderr, "%s\n", qPrintable(why));
@@ -34,12 +32,17 @@ void RunTool(const QString& tool, const QStringList& arguments)
 {
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
-    process.start(SourceDir + tool, arguments);
+    process.start(SourcePath(tool), arguments);
     if (!process.waitForFinished(120000) || process.exitCode() != 0)
         GiveUp(tool + u": "_s + QString::fromUtf8(process.readAll()));
 }
 
 } // namespace
+
+QString SourcePath(const QString& file)
+{
+    return QString::fromUtf8(ORVANE_SOURCE_DIR) + u'/' + file;
+}
 
 TestServer& TestServer::Instance()
 {
@@ -54,7 +57,7 @@ TestServer::TestServer() : m_socket(qEnvironmentVariable("ORVANE_TEST_SOCKET"))
     QTemporaryDir directory(QDir::tempPath() + u"/orvane-test-XXXXXX"_s);
     directory.setAutoRemove(false);
     m_directory = directory.path();
-    RunTool(u"/packaging/local-server"_s, {u"start"_s, m_directory, u"--fast"_s});
+    RunTool(u"packaging/local-server"_s, {u"start"_s, m_directory, u"--fast"_s});
     m_socket = m_directory + u"/mysql.sock"_s;
 }
 
@@ -63,7 +66,7 @@ void TestServer::Stop()
     SideConnection().Run(u"DROP DATABASE IF EXISTS "_s + TemplateName());
     if (m_directory.isEmpty())
         return;
-    RunTool(u"/packaging/local-server"_s, {u"stop"_s, m_directory});
+    RunTool(u"packaging/local-server"_s, {u"stop"_s, m_directory});
     QDir(m_directory).removeRecursively();
     m_directory.clear();
 }
@@ -141,9 +144,8 @@ const QStringList& TemplateTables()
 {
     static const QStringList tables = [] {
         SideConnection().Run(u"DROP DATABASE IF EXISTS "_s + TemplateName());
-        RunTool(u"/packaging/create-account-set"_s,
-                {u"--socket"_s, TestServer::Instance().Socket(), u"--user"_s, u"root"_s, u"--database"_s,
-                 TemplateName()});
+        RunTool(u"packaging/create-account-set"_s, {u"--socket"_s, TestServer::Instance().Socket(),
+                                                    u"--user"_s, u"root"_s, u"--database"_s, TemplateName()});
         QStringList names;
         for (const QStringList& row : SideConnection(TemplateName()).Rows(u"SHOW TABLES"_s))
             names << row[0];

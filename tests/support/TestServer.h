@@ -6,6 +6,9 @@
 #include <memory>
 #include <vector>
 
+/// Where a file of the source tree stands ("packaging/connection-ini"), for tests that run a tool.
+QString SourcePath(const QString& file);
+
 /// The private database server of a test run: the one that ORVANE_TEST_SOCKET names, or one that this
 /// process starts in a temporary folder and stops at its end.
 class TestServer {

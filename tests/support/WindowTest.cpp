@@ -62,6 +62,18 @@ int WindowTest::Count(const QString& table, const QString& where)
     return Value(u"SELECT COUNT(*) FROM %1 WHERE %2"_s.arg(table, where)).toInt();
 }
 
+SideConnection& WindowTest::Db()
+{
+    Repair();
+    return *m_side;
+}
+
+void WindowTest::Repair()
+{
+    if (!m_repair.isEmpty())
+        m_side->Run(std::exchange(m_repair, QString()));
+}
+
 QStringList WindowTest::TakeStatements()
 {
     return std::exchange(m_statements, {});
@@ -76,8 +88,7 @@ void WindowTest::FailStatement(int n, Refusal how)
 void WindowTest::BeforeStatement(const QString& statement)
 {
     m_statements << statement;
-    if (!m_repair.isEmpty())
-        m_side->Run(std::exchange(m_repair, QString()));
+    Repair();
     if (m_failIn > 0 && --m_failIn == 0)
         Sabotage(statement);
 }

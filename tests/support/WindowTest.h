@@ -31,14 +31,15 @@ protected:
     void TearDown() override;
 
     /// A connection beside the program's.
-    SideConnection& Db() { return *m_side; }
-    QString Value(const QString& select) { return m_side->Value(select); }
+    SideConnection& Db();
+    QString Value(const QString& select) { return Db().Value(select); }
     /// Number of rows, for "what changed and what did not".
     int Count(const QString& table, const QString& where = QStringLiteral("1=1"));
 
     /// Statements sent since the last call.
     QStringList TakeStatements();
-    /// Makes the n-th statement from now (1 is the next) fail, that one only.
+    /// Makes the n-th statement from now (1 is the next) fail, that one only. What was put in its way is
+    /// taken away before the next statement, or as soon as the test looks into the tables.
     void FailStatement(int n, Refusal how);
 
     /// Opens a window by its name as a menu would, and waits until it has the keyboard.
@@ -64,6 +65,7 @@ protected:
 private:
     void BeforeStatement(const QString& statement);
     void Sabotage(const QString& statement);
+    void Repair();
 
     TestDatabase m_database;
     QTemporaryDir m_folder;
