@@ -24,6 +24,7 @@
 #include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
+#include "till/frmSale.h"
 
 using namespace Qt::StringLiterals;
 
@@ -54,6 +55,7 @@ void RegisterWindows()
     Add<frmDataList>(u"frmDataList"_s);
     Add<frmSearchPRD>(u"frmSearchPRD"_s);
     Add<frmPRDList>(u"frmPRDList"_s);
+    Add<frmSale>(u"frmSale"_s);
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
 }

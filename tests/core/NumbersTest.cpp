@@ -156,6 +156,7 @@ TEST(Numbers, WhatIsNoNumberIsRefused)
           u"一"_s,    u",5"_s,    u"1 2"_s,  u"(5"_s,   u"5)"_s,  u"(-5)"_s,  u"()"_s,    u"1.5,0"_s,
           u"1e999"_s, u"5'"_s,    u"5\\"_s,  u"5;"_s,   u"\t"_s,  u"12\n3"_s, u"¥¥5"_s,   u"√"_s})
         EXPECT_FALSE(IsNumeric(text)) << text.toStdString();
+    EXPECT_FALSE(IsNumeric(QString(400, u'9'))) << "digits beyond what a double holds";
 }
 
 TEST(Numbers, AMoneyTextComesBackAsItsNumber)
