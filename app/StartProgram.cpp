@@ -11,12 +11,17 @@
 #include "core/logon/frmMultiLogon.h"
 #include "core/logon/frmSpash.h"
 #include "core/session/SessionControl.h"
+#include "goods/frmDataList.h"
+#include "goods/frmPRDList.h"
+#include "goods/frmSearchPRD.h"
 #include "masterdata/frmCustList.h"
 #include "masterdata/frmFeeType.h"
 #include "masterdata/frmGetCustList.h"
 #include "masterdata/frmPRDSort.h"
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
+#include "settlement/frmCheckOut.h"
+#include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
 
@@ -46,6 +51,11 @@ void RegisterWindows()
     Add<frmFeeType>(u"frmFeeType"_s);
     Add<frmCustList>(u"frmCustList"_s);
     Add<frmGetCustList>(u"frmGetCustList"_s);
+    Add<frmDataList>(u"frmDataList"_s);
+    Add<frmSearchPRD>(u"frmSearchPRD"_s);
+    Add<frmPRDList>(u"frmPRDList"_s);
+    Add<frmCheckOut>(u"frmCheckOut"_s);
+    Add<frmCheckOutA>(u"frmCheckOutA"_s);
 }
 
 bool StartProgram()

@@ -11,6 +11,7 @@
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
+#include "printing/LotSlip.h"
 #include "shell/MenuTable.h"
 #include "shell/ToolbarIcons.h"
 #include "shell/WorkArea.h"
@@ -210,7 +211,7 @@ void frmMain::PressToolbar(const QString& key)
         ToolbarHelp();
     else if (key == u"mnuExit")
         ToolbarExit();
-    // mnuSave has no action. mnuPreview and mnuExport act on an open report only.
+    // mnuSave has no action. mnuPreview and mnuExport act on reports alone.
 }
 
 void frmMain::ToolbarNew()

@@ -184,7 +184,8 @@ void TakeIn(Tour& tour)
     tour.PrintChanges();
     tour.CheckValue(
         u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
-        u"%1001 A-001 100.000000 100.000000 0 0 0 / %1002 B-001 50.000000 50.000000 1 1 0"_s.arg(Today()));
+        Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
+            u"002 B-001 50.000000 50.000000 1 1 0"_s);
     tour.CheckValue(u"SELECT CurrNumber FROM Count_Bill WHERE TID='C01'"_s, u"2"_s);
     CloseWindow(u"frmPRDList"_s);
     tour.WaitForWindow(u"frmDataList"_s);
@@ -349,7 +350,7 @@ void SettleLots(Tour& tour)
     tour.PrintChanges();
     tour.CheckValue(
         u"SELECT ID,PRDNo,Num,Num_Sal,bolCheckOut,bolFixed FROM PRD_List WHERE PRDNo='B-001' ORDER BY ID"_s,
-        u"%1002 B-001 50.000000 30.000000 1 1 / %1003 B-001 30.000000 30.000000 0 1"_s.arg(Today()));
+        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() + u"003 B-001 30.000000 30.000000 0 1"_s);
     CloseWindow(u"frmCheckOut"_s);
 
     tour.ChooseMenu(2, 1);

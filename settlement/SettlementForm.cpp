@@ -1,0 +1,247 @@
+#include "settlement/SettlementForm.h"
+
+#include "core/base/Clock.h"
+#include "core/base/Numbers.h"
+#include "core/common/Bills.h"
+#include "core/common/Formats.h"
+#include "core/common/Handlers.h"
+#include "core/common/Lookups.h"
+#include "core/common/Messages.h"
+#include "core/forms/RecordForms.h"
+#include "core/forms/WindowRegistry.h"
+#include "core/gateway/DataGateway.h"
+#include "core/session/Session.h"
+#include "settlement/SettlementMath.h"
+#include "settlement/SettlementRecords.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QLineEdit>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Characters of the columns that take the typed texts.
+constexpr int LotNumberWidth = 50;
+constexpr int RateWidth = 30;
+constexpr int PersonWidth = 60;
+
+/// The window as a sheet of paper: what is typed stands in white boxes, what is shown stands bare, at
+/// the height at which the printer puts it (120 twips below the top of its box).
+const QString SheetStyle = u"FormWindow { background: #efede6; }"
+                           "QLineEdit { background: white; border: 1px solid transparent; border-radius: 0;"
+                           " margin: 2px 0; padding: 4px 2px 0 3px; min-height: 0; }"
+                           "QLineEdit[readOnly=\"true\"] { background: transparent; }"
+                           "QLineEdit:focus { border: 2px solid #e07b00; padding: 3px 1px 0 2px; }"_s;
+
+void ShowCentred(QLabel* heading, const QString& text)
+{
+    heading->setText(text);
+    heading->adjustSize();
+    heading->move(std::max(0, (heading->parentWidget()->width() - heading->width()) / 2), heading->y());
+}
+
+/// A fee as calculated, then as it is shown: each writing runs the field's Change handler.
+void WriteFee(QLineEdit* fee, double amount)
+{
+    WriteText(fee, NumberText(amount));
+    WriteText(fee, FormatAmount(TextToDouble(fee->text()), u"1"_s));
+}
+
+} // namespace
+
+SettlementForm::SettlementForm(QWidget* owner) : FormWindow(owner, SlotUse::Takes)
+{
+    setStyleSheet(styleSheet() + SheetStyle);
+}
+
+void SettlementForm::Wire(const SettlementControls& controls)
+{
+    m_controls = controls;
+    Chain()
+        .Field(m_controls.txtPRDNo)
+        .AtMost(LotNumberWidth)
+        .OnChange([this] { LotNumberChanged(); })
+        .OnLeave([this] { LoadLotForSettlement(); });
+    WireFees();
+    Chain().Field(m_controls.txtCheckUser).AtMost(PersonWidth);
+    Chain().Field(m_controls.txtPayUser).AtMost(PersonWidth).OnEnter([this] { SaveSettlement(); });
+    OnPress(m_controls.cmdSubmit, [this] { SaveSettlement(); });
+    OnPress(m_controls.cmdCancel, [this] { close(); });
+    for (QLabel* caption : m_controls.lblFee)
+        caption->installEventFilter(this);
+}
+
+void SettlementForm::WireFees()
+{
+    const SettlementControls& c = m_controls;
+    const auto rate = [this](QLineEdit* box, FieldRule::Action charge) {
+        Chain().Field(box).AtMost(RateWidth).Numeric(u"数字填写错误！"_s).OnChange(std::move(charge));
+    };
+    const auto percent = [this, rate](QLineEdit* box, QLineEdit* fee) {
+        rate(box, [this, box, fee] { ChargeByPercent(box, fee); });
+    };
+    const auto unit = [this, rate](QLineEdit* box, const QString& feeId, QLineEdit* fee) {
+        rate(box, [this, box, feeId, fee] { ChargeByUnit(feeId, box, fee); });
+    };
+    // No limit of characters: grouping lengthens a figure, and a limit would cut it without a word.
+    const auto amount = [this](QLineEdit* box) {
+        Chain().Field(box).Numeric(u"数字填写错误！"_s).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] {
+            RecalculateSettlement();
+        });
+    };
+
+    percent(c.txtPer_LManage, c.txtLManagePrice);
+    amount(c.txtLManagePrice);
+    percent(c.txtPer_LElect, c.txtLElectPrice);
+    amount(c.txtLElectPrice);
+    amount(c.txtLPackPrice);
+    unit(c.txtPer_LUnload, u"F01"_s, c.txtLUnloadPrice);
+    amount(c.txtLUnloadPrice);
+    amount(c.txtLExpendPrice);
+    unit(c.txtPer_LSani, u"F02"_s, c.txtLSanitationPrice);
+    amount(c.txtLSanitationPrice);
+    amount(c.txtLRecoupPrice);
+    amount(c.txtLChillPrice);
+    amount(c.txtLFieldPrice);
+    amount(c.txtLOtherPrice);
+}
+
+void SettlementForm::OnLoad()
+{
+    ShowCentred(m_controls.lblCompName, GetCompName() + u"结算清单"_s);
+    ShowCentred(m_controls.lblReportName, GetDepartName());
+    KeepPrintStyle();
+    InitSettlementForm();
+}
+
+void SettlementForm::InitSettlementForm()
+{
+    const QDate today = Clock::Now().date();
+    m_controls.txtCheckDate->setText(LongDate(today));
+    m_controls.txtCheckNo->setText(NextBillNo(BillSeries::Settlements));
+    ShowFeeCaptions();
+    if (CheckNoExists(StoredBillNo(m_controls.txtCheckNo->text()))) {
+        ShowInfo(u"单号重复，请重新打开本菜单！"_s);
+        BumpBillCounter(Session::CurrentUserID, BillSeries::Settlements, FormatDate(today));
+    }
+}
+
+void SettlementForm::ShowFeeCaptions()
+{
+    RecordSet captions =
+        Gateway().SelectRows(u"DFN_CheckOutLabel"_s, u"LabelID,Caption"_s, u" Order By LabelID"_s);
+    for (; !captions.Eof(); captions.MoveNext()) {
+        bool isNumber = false;
+        const auto index = captions.Text(0).mid(1).toUInt(&isNumber);
+        if (isNumber && index < m_controls.lblFee.size())
+            m_controls.lblFee[index]->setText(captions.Text(1));
+    }
+}
+
+bool SettlementForm::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::MouseButtonDblClick) {
+        const auto& captions = m_controls.lblFee;
+        const auto caption = std::find(captions.begin(), captions.end(), watched);
+        if (caption != captions.end()) {
+            RunHandler([this, index = static_cast<int>(caption - captions.begin())] { RenameFee(index); });
+            return true;
+        }
+    }
+    return FormWindow::eventFilter(watched, event);
+}
+
+void SettlementForm::RenameFee(int index)
+{
+    static const QString window = u"frmSetFeeLabel"_s;
+    Session::FeeLabelKey = u'L' + QString::number(index);
+    if (!Windows().Knows(window)) {
+        ShowFunctionWindow(window);
+        return;
+    }
+    if (Form* form = Windows().Load(window, this))
+        form->TakeName(m_controls.lblFee[static_cast<std::size_t>(index)]->text());
+    Windows().ShowModal(window, this);
+}
+
+void SettlementForm::LoadLotForSettlement()
+{
+    if (!m_bolNewStatus)
+        return;
+    const SettlementControls& c = m_controls;
+    const QString number = c.txtPRDNo->text().trimmed();
+    if (number.isEmpty()) {
+        Chain().ReturnTo(c.txtPRDNo);
+        return;
+    }
+    const RecordSet lot = Gateway().SelectRows(
+        u"PRD_List"_s, u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + ExtraLotColumns(),
+        u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
+    if (lot.Eof()) {
+        ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
+        WriteText(c.txtPRDNo, QString());
+        Chain().ReturnTo(c.txtPRDNo);
+        return;
+    }
+    m_lotId = lot.Text(0);
+    c.txtCustName->setText(lot.Text(1));
+    TakeStore(lot.Text(2));
+    c.txtPRDName->setText(lot.Text(3));
+    // Last of the four: on the layout that clears itself with each new number, a lot found by its
+    // shortcut loses owner, store and product here.
+    WriteText(c.txtPRDNo, lot.Text(5));
+
+    const QString ofLot = u"ID='"_s + m_lotId + u"'"_s;
+    const double pieces = SumField(u"Sal_List"_s, u"Num"_s, ofLot);
+    const double unweighed = SumField(u"Sal_List"_s, u"Num"_s, ofLot + u" And Suttle=0"_s);
+    const double weighed = SumField(u"Sal_List"_s, u"Suttle"_s, ofLot);
+    const double amount = SumField(u"Sal_List"_s, u"Amount"_s, ofLot);
+    c.txtNum->setText(NumberText(pieces));
+    c.txtSuttle->setText(NumberText(WeightShown(weighed, unweighed, NullToZero(lot.Fields(4).Value))));
+    c.txtAmount->setText(FormatAmount(amount, QString()));
+    c.txtListNum->setText(QString::number(CountLotTickets(m_lotId)));
+
+    WriteText(c.txtLExpendPrice, NumberText(SumField(u"CustDebit"_s, u"DebitAmount"_s, ofLot)));
+    // An advance equal to the last lot's changes no text, and the net must still be this lot's.
+    RecalculateSettlement();
+    ShowStock(lot, pieces);
+}
+
+void SettlementForm::RecalculateSettlement()
+{
+    const SettlementControls& c = m_controls;
+    Deductions lines{};
+    std::ranges::transform(c.Deductions(), lines.begin(),
+                           [](const QLineEdit* box) { return TextToDouble(box->text()); });
+    const double total = TotalOfDeductions(lines);
+    c.txtLTotalPrice->setText(FormatMoney(total));
+    double net = NetToOwner(TextToDouble(c.txtAmount->text()), total);
+    if (net <= 0) {
+        c.txtGTotalPrice->clear();
+        return;
+    }
+    if (IsRoundOn(u"C02"_s))
+        net = RoundHalfUp(net);
+    c.txtGTotalPrice->setText(FormatMoney(net));
+    c.lblPriceUCase->setText(u'(' + MoneyToCapitals(net) + u')');
+}
+
+void SettlementForm::ChargeByPercent(const QLineEdit* rate, QLineEdit* fee)
+{
+    if (const auto amount = ParseNumber(m_controls.txtAmount->text()))
+        WriteFee(fee, FeeByPercent(RequiredNumber(rate->text()), *amount));
+}
+
+void SettlementForm::ChargeByUnit(const QString& feeId, const QLineEdit* rate, QLineEdit* fee)
+{
+    const bool isByWeight = GetFeeCountID(feeId) == u"0";
+    const QLineEdit* quantityBox = isByWeight ? m_controls.txtSuttle : m_controls.txtNum;
+    if (const auto quantity = ParseNumber(quantityBox->text())) {
+        const double perUnit = RequiredNumber(rate->text());
+        WriteFee(fee, isByWeight ? FeeByWeight(perUnit, *quantity) : FeeByCount(perUnit, *quantity));
+    }
+}

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "core/forms/FormWindow.h"
+#include "settlement/SettlementControls.h"
+
+class RecordSet;
+
+/// The settlement of a lot with its owner: sales less fees and advances. Every figure lives as the text
+/// of its field and is read back from there, so what is saved is what is shown. The two layouts are
+/// alike but for the hooks below.
+class SettlementForm : public FormWindow {
+    Q_OBJECT
+
+public:
+    void OnLoad() override;
+
+protected:
+    explicit SettlementForm(QWidget* owner);
+
+    /// The table of controls. Called once, when the layout stands.
+    void Wire(const SettlementControls& controls);
+
+    const SettlementControls& Controls() const { return m_controls; }
+    bool IsNewStatus() const { return m_bolNewStatus; }
+    const QString& LotId() const { return m_lotId; }
+
+    // Where the layouts differ.
+
+    /// The last step of the load before the first bill number.
+    virtual void KeepPrintStyle() {}
+    /// After each change of txtPRDNo.
+    virtual void LotNumberChanged() {}
+    /// Columns asked for beside those every layout shows, ",Num" for instance; they count from
+    /// FirstExtraColumn.
+    virtual QString ExtraLotColumns() const { return QString(); }
+    static constexpr int FirstExtraColumn = 6;
+    /// Where the lot's store is held.
+    virtual void TakeStore(const QString& store) = 0;
+    virtual QString Store() const = 0;
+    /// After the figures of a lot that was found; `pieces` are sold.
+    virtual void ShowStock(const RecordSet& /*lot*/, double /*pieces*/) {}
+    /// DFN_Paper.PrintStyle of the settlement.
+    virtual QString PrintStyle() const = 0;
+    virtual void Print(bool prePrinted, bool framed) = 0;
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void WireFees();
+    void InitSettlementForm();
+    void ShowFeeCaptions();
+    void RenameFee(int index);
+
+    void LoadLotForSettlement();
+    void RecalculateSettlement();
+    void ChargeByPercent(const QLineEdit* rate, QLineEdit* fee);
+    void ChargeByUnit(const QString& feeId, const QLineEdit* rate, QLineEdit* fee);
+
+    void SaveSettlement();
+    QString CheckOutValues(const QString& checkNo, const QString& checkDate) const;
+    void CloseLot(const QString& checkNo, const QString& today);
+    void MakeRoomForNextLot();
+
+    SettlementControls m_controls{};
+    QString m_lotId;            ///< PRD_List.ID of the lot that was found
+    bool m_bolNewStatus = true; ///< settling a lot, not adjusting a saved settlement
+};

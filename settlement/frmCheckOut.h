@@ -1,0 +1,33 @@
+#pragma once
+
+#include "settlement/SettlementForm.h"
+
+#include <memory>
+
+namespace Ui {
+class frmCheckOut;
+}
+
+/// The settlement with the lot's stock summary. The figures of the last lot stay until the next lot's
+/// replace them.
+class frmCheckOut : public SettlementForm {
+    Q_OBJECT
+
+public:
+    explicit frmCheckOut(QWidget* owner = nullptr);
+    ~frmCheckOut() override;
+
+protected:
+    void KeepPrintStyle() override;
+    QString ExtraLotColumns() const override;
+    void TakeStore(const QString& store) override { m_store = store; }
+    QString Store() const override { return m_store; }
+    void ShowStock(const RecordSet& lot, double pieces) override;
+    QString PrintStyle() const override { return m_printStyle; }
+    void Print(bool prePrinted, bool framed) override;
+
+private:
+    std::unique_ptr<Ui::frmCheckOut> ui;
+    QString m_store;
+    QString m_printStyle; ///< as read at load: a change counts from the next opening
+};
