@@ -198,7 +198,9 @@ TEST_F(Logon, StrangeNamesAndPasswordsDoNoHarm)
 TEST_F(Logon, ThePasswordIsNotShown)
 {
     Open(u"frmLogon"_s);
-    EXPECT_EQ(Find(u"frmLogon"_s, u"txtUserPWD"_s)->echoMode(), QLineEdit::Password);
+    Press(Qt::Key_Return);
+    Type(u"ab1"_s);
+    EXPECT_EQ(Find(u"frmLogon"_s, u"txtUserPWD"_s)->displayText(), u"***"_s);
     EXPECT_EQ(Windows().Find(u"frmLogon"_s)->Widget()->windowTitle(), u"用户登录"_s);
 }
 
