@@ -301,5 +301,5 @@ void frmMain::closeEvent(QCloseEvent* event)
     }
     event->accept();
     Windows().Unloaded(this);
-    deleteLater();
+    DestroyWhenIdle(this);
 }

@@ -205,7 +205,9 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        RunHandler([this, &rule] { MoveOn(rule, true); });
+        // An Enter held down walks on through the fields, but does not save a second time.
+        if (!rule.m_onEnter || !key.isAutoRepeat())
+            RunHandler([this, &rule] { MoveOn(rule, true); });
         return true;
     case Qt::Key_Down:
         if (combo || list)

@@ -64,9 +64,10 @@ struct DataGateway::Connection {
                                socket.isEmpty() ? nullptr : socket.constData(), 0) == nullptr)
             return false;
         // The columns' collation ignores case and trailing blanks; literals must compare alike. A lax
-        // mode is needed by statements that leave columns out or group by one column and read others.
+        // mode is needed by statements that leave columns out or group by one column and read others. A
+        // till left open over night or over the holidays keeps its connection.
         return mysql_query(handle, "SET NAMES utf8mb4 COLLATE utf8mb4_general_ci") == 0 &&
-               mysql_query(handle, "SET SESSION sql_mode=''") == 0;
+               mysql_query(handle, "SET SESSION sql_mode='',wait_timeout=31536000") == 0;
     }
 };
 
