@@ -23,7 +23,10 @@
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
+#include "shell/frmChangePWD.h"
 #include "shell/frmMain.h"
+#include "shell/frmUserList.h"
+#include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
 
 using namespace Qt::StringLiterals;
@@ -46,6 +49,9 @@ void RegisterWindows()
     Add<frmSpash>(u"frmSpash"_s);
     Add<frmMain>(u"frmMain"_s);
     Add<frmAbout>(u"frmAbout"_s);
+    Add<frmUserList>(u"frmUserList"_s);
+    Add<frmUserMenu>(u"frmUserMenu"_s);
+    Add<frmChangePWD>(u"frmChangePWD"_s);
     Add<frmStore>(u"frmStore"_s);
     Add<frmSales>(u"frmSales"_s);
     Add<frmPRDSort>(u"frmPRDSort"_s);
