@@ -24,7 +24,9 @@
 #include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmChangePWD.h"
+#include "shell/frmDataClear.h"
 #include "shell/frmMain.h"
+#include "shell/frmScroll.h"
 #include "shell/frmUserList.h"
 #include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
@@ -52,6 +54,8 @@ void RegisterWindows()
     Add<frmUserList>(u"frmUserList"_s);
     Add<frmUserMenu>(u"frmUserMenu"_s);
     Add<frmChangePWD>(u"frmChangePWD"_s);
+    Add<frmDataClear>(u"frmDataClear"_s);
+    Add<frmScroll>(u"frmScroll"_s);
     Add<frmStore>(u"frmStore"_s);
     Add<frmSales>(u"frmSales"_s);
     Add<frmPRDSort>(u"frmPRDSort"_s);

@@ -151,8 +151,10 @@ TEST_F(UsersByKeyboard, EachWindowIsReachedFromItsMenuEntry)
         QString entry;
         QString window;
     };
+    WriteProgramFile(u"Data/Table.ini"_s, u"[TableInfo]\nTableNum=0\n"_s);
     for (const Case& each : std::initializer_list<Case>{{1, u"menuUserMenu"_s, u"frmUserMenu"_s},
-                                                        {1, u"menuChangePWD"_s, u"frmChangePWD"_s}}) {
+                                                        {1, u"menuChangePWD"_s, u"frmChangePWD"_s},
+                                                        {7, u"menuDataClear"_s, u"frmDataClear"_s}}) {
         Choose(each.top, each.entry);
         BringUp(each.window);
         EXPECT_FALSE(Session::WindowSlotFree);
