@@ -38,6 +38,11 @@ void Tour::Step(const QString& title)
 void Tour::Picture(const QString& name)
 {
     Settle();
+    PictureAsItIs(name);
+}
+
+void Tour::PictureAsItIs(const QString& name)
+{
     const QString file = u"%1-%2.png"_s.arg(++m_pictureNumber, 2, 10, QChar(u'0')).arg(name);
     const QPixmap screen = QApplication::primaryScreen()->grabWindow(0);
     if (!screen.save(m_pictures.filePath(file))) {

@@ -23,6 +23,8 @@ public:
     void Step(const QString& title);
     /// A picture of the whole screen as "NN-name.png".
     void Picture(const QString& name);
+    /// The same without letting the program work on first, for what is there for a moment only.
+    void PictureAsItIs(const QString& name);
     /// Prints what the tables say that they did not say before.
     void PrintChanges();
 

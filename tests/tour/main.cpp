@@ -1,21 +1,26 @@
-// A lot's road: logon, master data, intake, a batch at the till, refusals, settlement, a locked lot.
+// A lot's road: logon, master data, intake, a batch at the till, refusals, settlement, a locked lot. Then a
+// cashier is added, given the till, and logs on.
 
 #include "app/StartProgram.h"
 #include "core/base/ProgramFiles.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
+#include "core/gateway/DataGateway.h"
+#include "shell/MenuTable.h"
 #include "tests/support/Keys.h"
 #include "tests/support/TestServer.h"
 #include "tests/tour/Tour.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDate>
 #include <QFile>
 #include <QListWidget>
+#include <QMenu>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -182,10 +187,9 @@ void TakeIn(Tour& tour)
     tour.Picture(u"frmPRDList-locked"_s);
     Press(Qt::Key_Return);
     tour.PrintChanges();
-    tour.CheckValue(
-        u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
-        Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
-            u"002 B-001 50.000000 50.000000 1 1 0"_s);
+    tour.CheckValue(u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
+                    Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
+                        u"002 B-001 50.000000 50.000000 1 1 0"_s);
     tour.CheckValue(u"SELECT CurrNumber FROM Count_Bill WHERE TID='C01'"_s, u"2"_s);
     CloseWindow(u"frmPRDList"_s);
     tour.WaitForWindow(u"frmDataList"_s);
@@ -350,7 +354,8 @@ void SettleLots(Tour& tour)
     tour.PrintChanges();
     tour.CheckValue(
         u"SELECT ID,PRDNo,Num,Num_Sal,bolCheckOut,bolFixed FROM PRD_List WHERE PRDNo='B-001' ORDER BY ID"_s,
-        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() + u"003 B-001 30.000000 30.000000 0 1"_s);
+        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() +
+            u"003 B-001 30.000000 30.000000 0 1"_s);
     CloseWindow(u"frmCheckOut"_s);
 
     tour.ChooseMenu(2, 1);
@@ -372,6 +377,154 @@ void SecondLayout(Tour& tour)
     tour.Picture(u"frmAbout"_s);
     Windows().Find(u"frmAbout"_s)->Widget()->close();
     Settle();
+}
+
+/// The manager adds a cashier and grants him the till.
+void AddCashier(Tour& tour)
+{
+    tour.Step(u"用户信息：加一个收银员"_s);
+    tour.ChooseMenu(1, 1);
+    tour.WaitForWindow(u"frmDataList"_s);
+    Press(Qt::Key_N, Qt::ControlModifier);
+    tour.WaitForWindow(u"frmUserList"_s);
+    Enter(u"txtUserID"_s, u"05"_s);
+    Enter(u"txtUserName"_s, u"小陈"_s);
+    Enter(u"txtUserPWD"_s, u"55"_s);
+    Enter(u"txtUserIP"_s, QString());
+    Press(Qt::Key_Return); // chkIP: from any workstation
+    Press(Qt::Key_Return); // chkSearch: his own bills
+    tour.Picture(u"frmUserList"_s);
+    Press(Qt::Key_Return); // chkEdit
+    tour.CheckText(u"frmUserList"_s, u"txtUserID"_s, QString());
+    CloseWindow(u"frmUserList"_s);
+    tour.WaitForWindow(u"frmDataList"_s);
+    tour.Picture(u"frmDataList-frmUserList"_s);
+    Press(Qt::Key_F4, Qt::ControlModifier);
+    WaitFor([] { return Windows().Find(u"frmDataList"_s) == nullptr; });
+    tour.PrintChanges();
+    tour.CheckValue(
+        u"SELECT UserID,UserName,UserPWD,bolIP,bolSearch,bolEdit FROM User_List ORDER BY UserID"_s,
+        u"01 管理员 1 0 1 1 / 05 小陈 55 0 0 0"_s);
+
+    tour.Step(u"用户权限：只给收银开票"_s);
+    tour.ChooseMenu(1, 2);
+    tour.WaitForWindow(u"frmUserMenu"_s);
+    tour.Picture(u"frmUserMenu-empty"_s);
+    Press(Qt::Key_Down); // 管理员
+    Press(Qt::Key_Down); // 小陈
+    tour.CheckText(u"frmUserMenu"_s, u"lblRights"_s, u"小陈 的权限"_s);
+    Press(Qt::Key_Return);
+    const auto* lines = Windows().Find(u"frmUserMenu"_s)->Widget()->findChild<QListWidget*>(u"lstMenuList"_s);
+    for (int i = 0; i < lines->count() && lines->currentItem()->text() != u"收银开票"; ++i)
+        Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    tour.Picture(u"frmUserMenu"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    tour.CheckText(u"frmUserMenu"_s, u"lblRights"_s, u"小陈 的权限（已保存）"_s);
+    CloseWindow(u"frmUserMenu"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT MenuName FROM User_Menu WHERE UserID='05'"_s, u"menuSale"_s);
+}
+
+QString EntriesThatAreOn()
+{
+    QStringList on;
+    const QWidget* frame = Windows().Find(u"frmMain"_s)->Widget();
+    for (const TopMenu& top : MenuBar()) {
+        for (const MenuEntry& entry : top.entries) {
+            if (frame->findChild<QAction*>(entry.control)->isEnabled())
+                on << entry.caption;
+        }
+    }
+    return on.join(u' ');
+}
+
+/// Alt+number opens a menu of the bar; its picture; Esc closes it.
+void LookAtMenu(Tour& tour, Qt::Key number, const QString& picture)
+{
+    tour.WaitForWindow(u"frmMain"_s);
+    Press(number, Qt::AltModifier);
+    WaitFor([] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; });
+    tour.Picture(picture);
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        QTest::keyClick(menu, Qt::Key_Escape);
+        Settle();
+    }
+}
+
+/// The manager gives himself another password, once with the wrong old one.
+void ChangePassword(Tour& tour)
+{
+    tour.Step(u"修改密码"_s);
+    tour.ChooseMenu(1, 7);
+    tour.WaitForWindow(u"frmChangePWD"_s);
+    Enter(u"txtOldPWD"_s, u"2"_s);
+    Enter(u"txtNewPWD"_s, u"88"_s);
+    tour.ExpectBox(u"原密码输入错误!"_s, u"frmChangePWD-refused"_s);
+    Enter(u"txtConfirmPWD"_s, u"88"_s);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmChangePWD"_s);
+    Enter(u"txtOldPWD"_s, u"1"_s);
+    Press(Qt::Key_Return);
+    tour.ExpectBox(u"密码修改成功，新密码将在下次启动时生效！"_s);
+    Press(Qt::Key_Return);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmChangePWD"_s);
+    CloseWindow(u"frmChangePWD"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT UserPWD FROM User_List WHERE UserID='01'"_s, u"88"_s);
+}
+
+/// Empties two tables, with a picture of the progress while the second goes.
+void ClearTables(Tour& tour)
+{
+    tour.Step(u"数据清空：收银清单与调整记录"_s);
+    tour.ChooseMenu(7, 2);
+    tour.WaitForWindow(u"frmDataClear"_s);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Down); // 收银清单
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    tour.Picture(u"frmDataClear"_s);
+    Gateway().SetStatementObserver([&tour](const QString& statement) {
+        if (statement != u"DELETE FROM Sal_List_B")
+            return;
+        tour.ExpectBox(u"数据清空完毕!"_s);
+        tour.PictureAsItIs(u"frmScroll"_s);
+    });
+    tour.ExpectBox(u"真的要清空这些数据表吗？注意：清空过后数据将不可恢复！"_s, u"frmDataClear-question"_s,
+                   Qt::Key_Y);
+    Press(Qt::Key_S, Qt::AltModifier);
+    tour.CheckBoxCame();
+    Gateway().SetStatementObserver(nullptr);
+    tour.WaitForWindow(u"frmDataClear"_s);
+    CloseWindow(u"frmDataClear"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT (SELECT COUNT(*) FROM Sal_List),(SELECT COUNT(*) FROM PRD_List)"_s, u"0 3"_s);
+}
+
+/// The new cashier logs on, and sees the till and nothing else.
+void CashierLogsOn(Tour& tour)
+{
+    tour.Step(u"新收银员登录：只看得到收银开票"_s);
+    StartProgram();
+    tour.WaitForWindow(u"frmLogon"_s);
+    Enter(u"cmbUserName"_s, u"小陈"_s);
+    Enter(u"txtUserPWD"_s, u"55"_s);
+    tour.WaitForWindow(u"frmMain"_s);
+    WaitFor([] { return Windows().Find(u"frmSpash"_s) == nullptr; });
+    tour.CheckText(u"frmMain"_s, u"panel3"_s, u"小陈[05]"_s);
+    tour.Check(u"menu entries that are on"_s, u"收银开票 帮助 关于产品"_s, EntriesThatAreOn());
+    LookAtMenu(tour, Qt::Key_1, u"frmMain-cashier-master-data"_s);
+    LookAtMenu(tour, Qt::Key_3, u"frmMain-cashier-till"_s);
+    tour.ChooseMenu(3, 1);
+    tour.WaitForWindow(u"frmSale"_s);
+    tour.CheckText(u"frmSale"_s, u"txtSalNo"_s, u"NO.05"_s + Today().mid(2) + u"001"_s);
+    tour.Picture(u"frmSale-cashier"_s);
+    CloseWindow(u"frmSale"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT UserID FROM User_Status"_s, u"05"_s);
 }
 
 void Leave(Tour& tour)
@@ -418,6 +571,7 @@ int main(int argc, char** argv)
         WriteFile(program.filePath(u"Config.ini"_s), u"[Define]\nAccNum=1\nPaperSize=9\nSplashTime=800\n"_s);
         WriteFile(program.filePath(u"Data/Data.ini"_s),
                   u"[DBType]\nDrive=MYSQL\n[MYSQL]\nConnStr=%1\n"_s.arg(database.ConnectionText()));
+        QFile::copy(SourcePath(u"packaging/files/Data/Table.ini"_s), program.filePath(u"Data/Table.ini"_s));
         SetProgramDirectory(program.path());
         RegisterWindows();
 
@@ -428,6 +582,11 @@ int main(int argc, char** argv)
         Sell(tour);
         SettleLots(tour);
         SecondLayout(tour);
+        AddCashier(tour);
+        ChangePassword(tour);
+        ClearTables(tour);
+        Leave(tour);
+        CashierLogsOn(tour);
         Leave(tour);
         Windows().DropAll();
         Settle();
