@@ -28,6 +28,7 @@ int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("CUPS_SERVER", "/nowhere"); // never a queue of this machine: a test that prints starts its own
     qInstallMessageHandler(Listen);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
