@@ -171,9 +171,9 @@ void frmPrint::ChoosePaper(const QWidget& form)
 {
     const int code = Session::PaperSizeCode;
     const QSizeF upright = UprightSheet(code);
-    // The forms are wider than a small sheet stands upright, and fit on it when it lies.
+    // The forms are as wide as A4 stands upright and A5 lies, to a pixel.
     const bool isTurned =
-        upright.width() < form.width() * TwipsPerPixel && upright.height() > upright.width();
+        upright.width() < (form.width() - 1) * TwipsPerPixel && upright.height() > upright.width();
     m_printer.SetPaperSize(code);
     m_printer.SetLandscape(isTurned);
     const QString name = isTurned         ? QString()
