@@ -82,6 +82,7 @@ void DocumentTest::SetUp()
     RegisterWindows();
     Windows().Register(u"frmDebit"_s, [](QWidget* owner) { return new frmDebit(owner); });
     Session::PaperSizeCode = 9;
+    QDir().mkpath(PdfFolder()); // known already: no box tells of it
     Db().Run(uR"(
         UPDATE Sys_Define SET CompName='青禾果品批发代销行', DepartName='江南果品市场南区十二号档';
         INSERT INTO Sales VALUES ('11','周建国');

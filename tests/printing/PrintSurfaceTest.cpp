@@ -21,6 +21,7 @@ protected:
     void SetUp() override
     {
         WindowTest::SetUp();
+        QDir().mkpath(PdfFolder()); // known already: no box tells of it
         page.Record(&log);
     }
 
@@ -313,6 +314,18 @@ TEST_F(PrintSurface, ADocumentWithoutDrawingIsAnOpenedJobAllTheSame)
     page.PrintStartDoc(printer, Whole);
     page.EndDoc();
     page.EndDoc(); // nothing is open any more
+    EXPECT_EQ(PagesOfThePdf(), 1);
+}
+
+TEST_F(PrintSurface, ADroppedJobLeavesNothingAndTheNextOneIsWhole)
+{
+    StartOnPaper();
+    page.PrintPrint(u"废页"_s);
+    printer.KillDoc();
+    printer.KillDoc();
+    StartOnPaper();
+    page.PrintPrint(u"好页"_s);
+    page.EndDoc();
     EXPECT_EQ(PagesOfThePdf(), 1);
 }
 

@@ -5,6 +5,7 @@
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 #include "tests/support/Keys.h"
+#include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
 #include "tests/tour/Tour.h"
 
@@ -397,6 +398,7 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(); // its failure records are the tour's too
     InstallSkin(application);
+    PrintServer::UseNone();
     QCommandLineParser options;
     const QCommandLineOption out(u"out"_s, u"folder of the pictures"_s, u"folder"_s, u"tour"_s);
     options.addOption(out);
