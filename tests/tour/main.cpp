@@ -4,6 +4,10 @@
 #include "core/base/ProgramFiles.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
+#include "printing/Documents.h"
+#include "printing/PrintQueue.h"
+#include "printing/frmPrintEStore.h"
+#include "settlement/frmDebit.h"
 #include "tests/support/Keys.h"
 #include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
@@ -13,10 +17,11 @@
 #include <QCommandLineParser>
 #include <QDate>
 #include <QFile>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -178,15 +183,19 @@ void TakeIn(Tour& tour)
     tour.WaitForWindow(u"frmPRDList"_s);
     BookIn({u"A"_s, u"100"_s, u"15"_s, QString(), u"王老板"_s, u"88"_s, false});
     tour.Picture(u"frmPRDList"_s);
+    // Without a print queue the slip becomes a file, and its folder is told of once.
+    tour.ExpectBox(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + PdfFolder(),
+                   u"frmPRDList-slip-as-file"_s);
     Press(Qt::Key_Return);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmPRDList"_s);
     BookIn({u"B"_s, u"50"_s, u"20"_s, u"10"_s, u"赵老板"_s, QString(), true});
     tour.Picture(u"frmPRDList-locked"_s);
     Press(Qt::Key_Return);
     tour.PrintChanges();
-    tour.CheckValue(
-        u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
-        Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
-            u"002 B-001 50.000000 50.000000 1 1 0"_s);
+    tour.CheckValue(u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
+                    Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
+                        u"002 B-001 50.000000 50.000000 1 1 0"_s);
     tour.CheckValue(u"SELECT CurrNumber FROM Count_Bill WHERE TID='C01'"_s, u"2"_s);
     CloseWindow(u"frmPRDList"_s);
     tour.WaitForWindow(u"frmDataList"_s);
@@ -351,7 +360,8 @@ void SettleLots(Tour& tour)
     tour.PrintChanges();
     tour.CheckValue(
         u"SELECT ID,PRDNo,Num,Num_Sal,bolCheckOut,bolFixed FROM PRD_List WHERE PRDNo='B-001' ORDER BY ID"_s,
-        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() + u"003 B-001 30.000000 30.000000 0 1"_s);
+        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() +
+            u"003 B-001 30.000000 30.000000 0 1"_s);
     CloseWindow(u"frmCheckOut"_s);
 
     tour.ChooseMenu(2, 1);
@@ -364,15 +374,70 @@ void SettleLots(Tour& tour)
 void SecondLayout(Tour& tour)
 {
     tour.Step(u"第二种结算格式"_s);
+    tour.ChooseMenu(3, 1);
+    tour.WaitForWindow(u"frmSale"_s);
+    Enter(u"txtVendee"_s, QString());
+    TypeTicket(u"B-001"_s, u"12"_s, QString(), u"4.5"_s);
+    Enter(u"cmbSaleType"_s, QString());
+    Press(Qt::Key_Return);
+    CloseWindow(u"frmSale"_s);
     Windows().Show(u"frmCheckOutA"_s, Windows().Find(u"frmMain"_s)->Widget());
     tour.WaitForWindow(u"frmCheckOutA"_s);
+    TypeSettlement(u"B-001"_s, u"5"_s, u"30"_s);
     tour.Picture(u"frmCheckOutA"_s);
+    Press(Qt::Key_Return);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT PRDNo,Num,Amount FROM CheckOut ORDER BY CheckNo DESC LIMIT 1"_s,
+                    u"B-001 12.000000 54.000000"_s);
     CloseWindow(u"frmCheckOutA"_s);
     tour.ChooseMenu(8, 2);
     tour.WaitForWindow(u"frmAbout"_s);
     tour.Picture(u"frmAbout"_s);
     Windows().Find(u"frmAbout"_s)->Widget()->close();
     Settle();
+}
+
+/// The two slips whose screens are not built yet, and what all the documents became.
+void Papers(Tour& tour)
+{
+    tour.Step(u"单据：库存变更单、预支款登记单"_s);
+    frmPrintEStore::Load().Fill({.date = QDate::currentDate(),
+                                 .custName = u"赵老板"_s,
+                                 .prdNo = u"B-001"_s,
+                                 .prdName = u"砀山梨"_s,
+                                 .custInDate = u"2026-03-09"_s,
+                                 .custInNum = 50,
+                                 .store = u"一号库"_s,
+                                 .kind = u"损耗"_s,
+                                 .num = 2.5,
+                                 .stock = 47.5,
+                                 .memo = u"压坏，已当面点清"_s});
+    Documents().PrintRpt(u"EStore"_s);
+    Documents().PrintEStore(false, true);
+
+    Windows().Register(u"frmDebit"_s, [](QWidget* owner) { return new frmDebit(owner); });
+    Windows().Show(u"frmDebit"_s, Windows().Find(u"frmMain"_s)->Widget());
+    QWidget* debit = tour.WaitForWindow(u"frmDebit"_s);
+    const QList<std::pair<QString, QString>> texts{
+        {u"txtPRDNo"_s, u"B-001"_s},           {u"txtCustName"_s, u"赵老板"_s},
+        {u"txtPRDName"_s, u"砀山梨"_s},        {u"txtNum"_s, u"50"_s},
+        {u"txtStore"_s, u"一号库"_s},          {u"txtCustInDate"_s, u"2026-03-09"_s},
+        {u"txtAmount"_s, u"77,296.88"_s},      {u"txtDebitAmount"_s, u"20,000.0"_s},
+        {u"txtTDebitAmount"_s, u"56,500.5"_s}, {u"txtMemo"_s, u"现金，货主本人到场领取"_s},
+    };
+    for (const auto& [name, text] : texts)
+        debit->findChild<QLineEdit*>(name)->setText(text);
+    tour.Picture(u"frmDebit"_s);
+    Documents().PrintDebit(false, true);
+    Documents().PrintDebit(false, false); // to the preview
+    debit->close();
+    Settle();
+    tour.Picture(u"frmPrint"_s);
+    Windows().Find(u"frmPrint"_s)->Widget()->close();
+    Settle();
+
+    // Two lot slips, four tickets, three settlements, and these two.
+    tour.KeepDocuments(PdfFolder(), 11);
 }
 
 void Leave(Tour& tour)
@@ -407,7 +472,7 @@ int main(int argc, char** argv)
 
     QDir pictures(options.value(out));
     pictures.mkpath(u"."_s);
-    for (const QString& old : pictures.entryList({u"*.png"_s}, QDir::Files))
+    for (const QString& old : pictures.entryList({u"*.png"_s, u"*.pdf"_s}, QDir::Files))
         pictures.remove(old);
 
     QTemporaryDir program;
@@ -415,7 +480,8 @@ int main(int argc, char** argv)
     {
         const TestDatabase database;
         SideConnection(database.Name())
-            .Run(u"UPDATE Sys_Define SET CompName='绿野果品',DepartName='代销一部',Control_Sale='1'"_s);
+            .Run(u"UPDATE Sys_Define SET CompName='绿野果品',DepartName='代销一部',Control_Sale='1';"
+                 "UPDATE DFN_Paper SET PrintStyle='2'"_s);
         QDir(program.path()).mkpath(u"Data"_s);
         WriteFile(program.filePath(u"Config.ini"_s), u"[Define]\nAccNum=1\nPaperSize=9\nSplashTime=800\n"_s);
         WriteFile(program.filePath(u"Data/Data.ini"_s),
@@ -430,6 +496,7 @@ int main(int argc, char** argv)
         Sell(tour);
         SettleLots(tour);
         SecondLayout(tour);
+        Papers(tour);
         Leave(tour);
         Windows().DropAll();
         Settle();
