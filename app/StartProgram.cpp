@@ -20,6 +20,7 @@
 #include "masterdata/frmPRDSort.h"
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
+#include "printing/frmPrint.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
@@ -68,6 +69,7 @@ void RegisterWindows()
     Add<frmSale>(u"frmSale"_s);
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
+    Add<frmPrint>(u"frmPrint"_s);
 }
 
 bool StartProgram()

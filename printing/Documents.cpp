@@ -1,5 +1,10 @@
 #include "printing/Documents.h"
 
+#include "core/forms/RecordForms.h"
+#include "core/forms/WindowRegistry.h"
+
+using namespace Qt::StringLiterals;
+
 namespace {
 DocumentPrinter* replacement = nullptr;
 }
@@ -7,7 +12,10 @@ DocumentPrinter* replacement = nullptr;
 DocumentPrinter& Documents()
 {
     static DocumentPrinter noPaper;
-    return replacement ? *replacement : noPaper;
+    if (replacement)
+        return *replacement;
+    auto* window = dynamic_cast<DocumentPrinter*>(Windows().Load(u"frmPrint"_s, MainFrame()));
+    return window ? *window : noPaper;
 }
 
 void SetDocumentPrinter(DocumentPrinter* printer)

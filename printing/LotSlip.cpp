@@ -7,6 +7,8 @@
 #include "printing/Documents.h"
 #include "printing/frmTemp.h"
 
+#include <QScopeGuard>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -18,14 +20,6 @@ double StockChange(const QString& lotId, const QString& type)
 {
     return SumField(u"EStore_List"_s, u"Num"_s, u"ID='"_s + lotId + u"' And EStoreType='"_s + type + u"'"_s);
 }
-
-/// Unloads the transfer form whatever becomes of the printing.
-struct TransferForm {
-    TransferForm() = default;
-    ~TransferForm() { frmTemp::Unload(); }
-    TransferForm(const TransferForm&) = delete;
-    TransferForm& operator=(const TransferForm&) = delete;
-};
 
 } // namespace
 
@@ -52,7 +46,7 @@ void PrintLotSlip(const LotSlip& slip, const QString& printStyle)
 {
     if (!IsSlipWanted(printStyle))
         return;
-    const TransferForm form;
+    const auto unload = qScopeGuard([] { frmTemp::Unload(); });
     FillLotSlip(slip);
     PrintByStyle(printStyle, [](bool prePrinted, bool framed) {
         Documents().PrintRpt(LotSlipKey);

@@ -4,56 +4,21 @@
 #include "core/base/Numbers.h"
 #include "core/common/Formats.h"
 #include "core/common/Lookups.h"
+#include "core/forms/Fields.h"
 #include "core/session/Session.h"
 #include "printing/LotSlip.h"
 #include "ui_frmTemp.h"
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-std::unique_ptr<frmTemp>& Instance()
-{
-    static std::unique_ptr<frmTemp> instance;
-    return instance;
-}
-
-} // namespace
-
 frmTemp::frmTemp() : ui(std::make_unique<Ui::frmTemp>())
 {
     ui->setupUi(this);
-    ShowHeadings();
+    ShowCentred(ui->lblCompName, GetCompName() + u"商品登记单"_s);
+    ShowCentred(ui->lblReportName, GetDepartName());
 }
 
 frmTemp::~frmTemp() = default;
-
-frmTemp& frmTemp::Load()
-{
-    if (!Instance())
-        Instance().reset(new frmTemp);
-    return *Instance();
-}
-
-frmTemp* frmTemp::Loaded()
-{
-    return Instance().get();
-}
-
-void frmTemp::Unload()
-{
-    Instance().reset();
-}
-
-void frmTemp::ShowHeadings()
-{
-    ui->lblCompName->setText(GetCompName() + u"商品登记单"_s);
-    ui->lblReportName->setText(GetDepartName());
-    for (QLabel* heading : {ui->lblCompName, ui->lblReportName}) {
-        heading->adjustSize();
-        heading->move((width() - heading->width()) / 2, heading->y());
-    }
-}
 
 void frmTemp::Fill(const LotSlip& slip, double stock)
 {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QWidget>
+#include "printing/TransferForm.h"
 
-#include <memory>
+#include <QWidget>
 
 struct LotSlip;
 
@@ -11,26 +11,20 @@ class frmTemp;
 }
 
 /// The lot slip as a form: never shown, it exists to be filled and printed. Its absolute layout is the
-/// paper, one pixel to 15 twips, and its controls print in their order.
-class frmTemp : public QWidget {
+/// paper, one pixel to 15 twips, and its controls print in their order. Loading it fills the headings
+/// (two lookups), and throws DatabaseError when those fail.
+class frmTemp : public QWidget, public TransferForm<frmTemp> {
     Q_OBJECT
 
 public:
-    /// The form, loaded with its headings (two lookups) unless it stands already. @throws DatabaseError
-    static frmTemp& Load();
-    /// The form while it is loaded, nullptr otherwise.
-    static frmTemp* Loaded();
-    static void Unload();
-
     ~frmTemp() override;
 
     /// Writes the texts of a slip. `stock` in the slip's unit.
     void Fill(const LotSlip& slip, double stock);
 
 private:
+    friend class TransferForm<frmTemp>;
     frmTemp();
-
-    void ShowHeadings();
 
     std::unique_ptr<Ui::frmTemp> ui;
 };

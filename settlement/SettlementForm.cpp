@@ -7,12 +7,14 @@
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
+#include "core/forms/Fields.h"
 #include "core/forms/RecordForms.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "settlement/SettlementMath.h"
 #include "settlement/SettlementRecords.h"
+#include "settlement/SheetStyle.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -29,21 +31,6 @@ constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
 constexpr int PersonWidth = 60;
 
-/// The window as a sheet of paper: what is typed stands in white boxes, what is shown stands bare, at
-/// the height at which the printer puts it (120 twips below the top of its box).
-const QString SheetStyle = u"FormWindow { background: #efede6; }"
-                           "QLineEdit { background: white; border: 1px solid transparent; border-radius: 0;"
-                           " margin: 2px 0; padding: 4px 2px 0 3px; min-height: 0; }"
-                           "QLineEdit[readOnly=\"true\"] { background: transparent; }"
-                           "QLineEdit:focus { border: 2px solid #e07b00; padding: 3px 1px 0 2px; }"_s;
-
-void ShowCentred(QLabel* heading, const QString& text)
-{
-    heading->setText(text);
-    heading->adjustSize();
-    heading->move(std::max(0, (heading->parentWidget()->width() - heading->width()) / 2), heading->y());
-}
-
 /// A fee as calculated, then as it is shown: each writing runs the field's Change handler.
 void WriteFee(QLineEdit* fee, double amount)
 {
@@ -55,7 +42,7 @@ void WriteFee(QLineEdit* fee, double amount)
 
 SettlementForm::SettlementForm(QWidget* owner) : FormWindow(owner, SlotUse::Takes)
 {
-    setStyleSheet(styleSheet() + SheetStyle);
+    ApplySheetStyle(this);
 }
 
 void SettlementForm::Wire(const SettlementControls& controls)

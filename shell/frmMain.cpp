@@ -124,6 +124,11 @@ void frmMain::OnLoad()
     m_isLoaded = true;
 }
 
+void frmMain::Hold(Form* window)
+{
+    m_workArea->Hold(window);
+}
+
 void frmMain::ApplyUserMenus()
 {
     QList<QAction*> entries;
@@ -171,7 +176,7 @@ void frmMain::OpenWindow(const MenuEntry& entry)
     if (window != u"frmDataList") {
         ShowFunctionWindow(window);
     } else if (Form* list = Windows().Load(window, m_workArea)) {
-        m_workArea->Hold(list);
+        Hold(list);
     }
 }
 
@@ -221,7 +226,13 @@ void frmMain::ToolbarNew()
 }
 
 void frmMain::ToolbarPrint()
-{}
+{
+    if (Session::CurrentMenuKey != u"PRDList")
+        return;
+    const Form* list = Windows().Find(u"frmDataList"_s);
+    if (const auto number = list ? list->SelectedKey() : std::nullopt)
+        ReprintLotSlip(*number);
+}
 
 void frmMain::ToolbarEdit()
 {

@@ -25,6 +25,7 @@ public:
 
     QWidget* Widget() override { return this; }
     void OnLoad() override;
+    void Hold(Form* window) override;
 
     /// Switches the toolbar's buttons by their positions, separators counted: 2, 4, .. 20.
     void EnableToolbar(std::initializer_list<int> positions, bool enabled = true);

@@ -7,6 +7,7 @@
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
+#include "core/forms/Fields.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -27,14 +28,6 @@ constexpr int CheckCodeWidth = 50;
 constexpr int NumberWidth = 20;
 constexpr int SlipNumberWidth = 10;
 constexpr int SalesmanWidth = 30;
-
-constexpr int PaperMiddle = 397; // pixels: the middle of an A5 sheet lying across
-
-void CentreOnPaper(QLabel* heading)
-{
-    heading->adjustSize();
-    heading->move(PaperMiddle - heading->width() / 2, heading->y());
-}
 
 /// Yuan in a locked box. A box is laid out anew by each write, and most keystrokes change few of them.
 void ShowMoney(QLineEdit* box, double yuan)
@@ -143,10 +136,8 @@ void frmSale::TakeNextNumber()
 
 void frmSale::ShowHeadings()
 {
-    ui->lblCompName->setText(GetCompName() + u"收款清单"_s);
-    ui->lblReportName->setText(GetDepartName());
-    CentreOnPaper(ui->lblCompName);
-    CentreOnPaper(ui->lblReportName);
+    ShowCentred(ui->lblCompName, GetCompName() + u"收款清单"_s);
+    ShowCentred(ui->lblReportName, GetDepartName());
     const bool isVerifyOn = IsVerifyOn();
     ui->txtVerifyID->setVisible(isVerifyOn);
     if (!isVerifyOn) // the number takes the room of the code

@@ -1,7 +1,10 @@
 #include "core/forms/Fields.h"
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
+
+#include <algorithm>
 
 void FocusAndSelect(QWidget* field)
 {
@@ -16,4 +19,12 @@ void Lock(QLineEdit* field)
     // The style sheet asks for the property, and looks again only when told.
     field->style()->unpolish(field);
     field->style()->polish(field);
+}
+
+void ShowCentred(QLabel* heading, const QString& text)
+{
+    heading->ensurePolished(); // measured in its own font also before the form is seen
+    heading->setText(text);
+    heading->adjustSize();
+    heading->move(std::max(0, (heading->parentWidget()->width() - heading->width()) / 2), heading->y());
 }

@@ -32,6 +32,8 @@ public:
     virtual void RefreshList() {}
     /// Text behind the where-clause of the window's list, from the next rebuild on: "" or " And ...".
     virtual void SetSearchClause(const QString& /*clause*/) {}
+    /// Shows another window inside this one's work area; only the main window has one.
+    virtual void Hold(Form* /*window*/) {}
     /// The key of the selected row of the window's list, that is its sub-item 1; none without a row.
     virtual std::optional<QString> SelectedKey() const { return std::nullopt; }
 };

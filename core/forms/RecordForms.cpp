@@ -33,6 +33,14 @@ void ShowFunctionWindow(const QString& name)
         ShowInfo(u"此功能在本版本中尚未提供。"_s);
 }
 
+void ShowInFrame(Form* window)
+{
+    if (Form* frame = Windows().Find(u"frmMain"_s))
+        frame->Hold(window);
+    else
+        window->Widget()->show();
+}
+
 void EditRecord(const QString& menuKey, const QString& key)
 {
     const QString name = RecordFormOf(menuKey);

@@ -1,4 +1,5 @@
 #include "core/forms/Skin.h"
+#include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
 
 #include <QApplication>
@@ -32,6 +33,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     InstallSkin(application);
+    PrintServer::UseNone();
     ::testing::InitGoogleTest(&argc, argv);
     const int result = RUN_ALL_TESTS();
     TestServer::Instance().Stop();

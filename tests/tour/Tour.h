@@ -43,6 +43,10 @@ public:
     /// Fails the tour when the expected box did not come.
     void CheckBoxCame();
 
+    /// Checks how many documents were printed into a folder, and leaves them beside the pictures, as they
+    /// are and as pictures.
+    void KeepDocuments(const QString& folder, int expected);
+
     int Failures() const { return m_failures; }
 
 private:

@@ -6,8 +6,13 @@
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
+#include "printing/Documents.h"
+#include "printing/PrintQueue.h"
+#include "printing/frmPrintEStore.h"
+#include "settlement/frmDebit.h"
 #include "shell/MenuTable.h"
 #include "tests/support/Keys.h"
+#include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
 #include "tests/tour/Tour.h"
 
@@ -16,6 +21,7 @@
 #include <QCommandLineParser>
 #include <QDate>
 #include <QFile>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QTemporaryDir>
@@ -182,7 +188,12 @@ void TakeIn(Tour& tour)
     tour.WaitForWindow(u"frmPRDList"_s);
     BookIn({u"A"_s, u"100"_s, u"15"_s, QString(), u"王老板"_s, u"88"_s, false});
     tour.Picture(u"frmPRDList"_s);
+    // Without a print queue the slip becomes a file, and its folder is told of once.
+    tour.ExpectBox(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + PdfFolder(),
+                   u"frmPRDList-slip-as-file"_s);
     Press(Qt::Key_Return);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmPRDList"_s);
     BookIn({u"B"_s, u"50"_s, u"20"_s, u"10"_s, u"赵老板"_s, QString(), true});
     tour.Picture(u"frmPRDList-locked"_s);
     Press(Qt::Key_Return);
@@ -368,9 +379,21 @@ void SettleLots(Tour& tour)
 void SecondLayout(Tour& tour)
 {
     tour.Step(u"第二种结算格式"_s);
+    tour.ChooseMenu(3, 1);
+    tour.WaitForWindow(u"frmSale"_s);
+    Enter(u"txtVendee"_s, QString());
+    TypeTicket(u"B-001"_s, u"12"_s, QString(), u"4.5"_s);
+    Enter(u"cmbSaleType"_s, QString());
+    Press(Qt::Key_Return);
+    CloseWindow(u"frmSale"_s);
     Windows().Show(u"frmCheckOutA"_s, Windows().Find(u"frmMain"_s)->Widget());
     tour.WaitForWindow(u"frmCheckOutA"_s);
+    TypeSettlement(u"B-001"_s, u"5"_s, u"30"_s);
     tour.Picture(u"frmCheckOutA"_s);
+    Press(Qt::Key_Return);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT PRDNo,Num,Amount FROM CheckOut ORDER BY CheckNo DESC LIMIT 1"_s,
+                    u"B-001 12.000000 54.000000"_s);
     CloseWindow(u"frmCheckOutA"_s);
     tour.ChooseMenu(8, 2);
     tour.WaitForWindow(u"frmAbout"_s);
@@ -527,6 +550,49 @@ void CashierLogsOn(Tour& tour)
     tour.CheckValue(u"SELECT UserID FROM User_Status"_s, u"05"_s);
 }
 
+/// The two slips whose screens are not built yet, and what all the documents became.
+void Papers(Tour& tour)
+{
+    tour.Step(u"单据：库存变更单、预支款登记单"_s);
+    frmPrintEStore::Load().Fill({.date = QDate::currentDate(),
+                                 .custName = u"赵老板"_s,
+                                 .prdNo = u"B-001"_s,
+                                 .prdName = u"砀山梨"_s,
+                                 .custInDate = u"2026-03-09"_s,
+                                 .custInNum = 50,
+                                 .store = u"一号库"_s,
+                                 .kind = u"损耗"_s,
+                                 .num = 2.5,
+                                 .stock = 47.5,
+                                 .memo = u"压坏，已当面点清"_s});
+    Documents().PrintRpt(u"EStore"_s);
+    Documents().PrintEStore(false, true);
+
+    Windows().Register(u"frmDebit"_s, [](QWidget* owner) { return new frmDebit(owner); });
+    Windows().Show(u"frmDebit"_s, Windows().Find(u"frmMain"_s)->Widget());
+    QWidget* debit = tour.WaitForWindow(u"frmDebit"_s);
+    const QList<std::pair<QString, QString>> texts{
+        {u"txtPRDNo"_s, u"B-001"_s},           {u"txtCustName"_s, u"赵老板"_s},
+        {u"txtPRDName"_s, u"砀山梨"_s},        {u"txtNum"_s, u"50"_s},
+        {u"txtStore"_s, u"一号库"_s},          {u"txtCustInDate"_s, u"2026-03-09"_s},
+        {u"txtAmount"_s, u"77,296.88"_s},      {u"txtDebitAmount"_s, u"20,000.0"_s},
+        {u"txtTDebitAmount"_s, u"56,500.5"_s}, {u"txtMemo"_s, u"现金，货主本人到场领取"_s},
+    };
+    for (const auto& [name, text] : texts)
+        debit->findChild<QLineEdit*>(name)->setText(text);
+    tour.Picture(u"frmDebit"_s);
+    Documents().PrintDebit(false, true);
+    Documents().PrintDebit(false, false); // to the preview
+    debit->close();
+    Settle();
+    tour.Picture(u"frmPrint"_s);
+    Windows().Find(u"frmPrint"_s)->Widget()->close();
+    Settle();
+
+    // Two lot slips, four tickets, three settlements, and these two.
+    tour.KeepDocuments(PdfFolder(), 11);
+}
+
 void Leave(Tour& tour)
 {
     tour.Step(u"退出"_s);
@@ -550,6 +616,7 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(); // its failure records are the tour's too
     InstallSkin(application);
+    PrintServer::UseNone();
     QCommandLineParser options;
     const QCommandLineOption out(u"out"_s, u"folder of the pictures"_s, u"folder"_s, u"tour"_s);
     options.addOption(out);
@@ -558,7 +625,7 @@ int main(int argc, char** argv)
 
     QDir pictures(options.value(out));
     pictures.mkpath(u"."_s);
-    for (const QString& old : pictures.entryList({u"*.png"_s}, QDir::Files))
+    for (const QString& old : pictures.entryList({u"*.png"_s, u"*.pdf"_s}, QDir::Files))
         pictures.remove(old);
 
     QTemporaryDir program;
@@ -566,7 +633,8 @@ int main(int argc, char** argv)
     {
         const TestDatabase database;
         SideConnection(database.Name())
-            .Run(u"UPDATE Sys_Define SET CompName='绿野果品',DepartName='代销一部',Control_Sale='1'"_s);
+            .Run(u"UPDATE Sys_Define SET CompName='绿野果品',DepartName='代销一部',Control_Sale='1';"
+                 "UPDATE DFN_Paper SET PrintStyle='2'"_s);
         QDir(program.path()).mkpath(u"Data"_s);
         WriteFile(program.filePath(u"Config.ini"_s), u"[Define]\nAccNum=1\nPaperSize=9\nSplashTime=800\n"_s);
         WriteFile(program.filePath(u"Data/Data.ini"_s),
@@ -582,6 +650,7 @@ int main(int argc, char** argv)
         Sell(tour);
         SettleLots(tour);
         SecondLayout(tour);
+        Papers(tour);
         AddCashier(tour);
         ChangePassword(tour);
         ClearTables(tour);

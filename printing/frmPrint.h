@@ -1,0 +1,53 @@
+#pragma once
+
+#include "core/forms/FormWindow.h"
+#include "printing/Documents.h"
+#include "printing/SystemPrinter.h"
+
+#include <memory>
+
+class clsPrint;
+class ctlPreview;
+class DrawingLog;
+struct DocumentRules;
+
+namespace Ui {
+class frmPrint;
+}
+
+/// The print window: it turns forms into documents, on the printer or on its preview. Loaded with the
+/// first document and not seen until one is previewed.
+class frmPrint : public FormWindow, public DocumentPrinter {
+    Q_OBJECT
+
+public:
+    explicit frmPrint(QWidget* owner = nullptr);
+    ~frmPrint() override;
+
+    void PrintRpt(const QString& documentKey) override { m_documentKey = documentKey; }
+    void PrintPRDList(bool prePrinted, bool framed) override;
+    void PrintEStore(bool prePrinted, bool framed) override;
+    void PrintSaleList(bool prePrinted, bool framed) override;
+    void PrintDebit(bool prePrinted, bool framed) override;
+    void PrintCheckOut(bool prePrinted, bool framed) override;
+    void PrintCheckOutA(bool prePrinted, bool framed) override;
+
+    /// Tells the drawing calls of the documents to `log`, beside drawing them; nullptr ends that.
+    void Record(DrawingLog* log);
+
+    /// The preview. Touching it shows the window.
+    ctlPreview& PagePreview();
+
+private:
+    void PrintDocument(const DocumentRules& rules, bool prePrinted, bool framed);
+    void PrintForm(const DocumentRules& rules, const QWidget& form, bool prePrinted, bool framed);
+    void ChoosePaper(const QWidget& form);
+    clsPrint& Page();
+    void PressToolbar(const QString& key);
+
+    std::unique_ptr<Ui::frmPrint> ui;
+    SystemPrinter m_printer;
+    std::unique_ptr<clsPrint> m_page;
+    DrawingLog* m_log = nullptr;
+    QString m_documentKey;
+};
