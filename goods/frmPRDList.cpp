@@ -21,12 +21,6 @@ namespace {
 constexpr int NumberLength = 20; // characters of a numeric field
 constexpr int LastCustID = 999;
 
-/// A text as it stands in a statement, quotes around it.
-QString Quoted(const QString& text)
-{
-    return u"'"_s + text + u"'"_s;
-}
-
 QString Trimmed(const QLineEdit* box)
 {
     return box->text().trimmed();

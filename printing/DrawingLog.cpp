@@ -16,7 +16,7 @@ QString Twips(double value)
     return NumberText(std::round(value * 10) / 10);
 }
 
-QString Quoted(QString text)
+QString InQuotes(QString text)
 {
     text.replace(u'\\', u"\\\\"_s).replace(u'\n', u"\\n"_s).replace(u'"', u"\\\""_s);
     return u'"' + text + u'"';
@@ -34,11 +34,11 @@ void DrawingLog::Note(const QString& call, std::initializer_list<double> numbers
 
 void DrawingLog::NoteText(const QString& text, double x, double y, const QFont& font)
 {
-    QString line = u"text "_s + Twips(x) + u' ' + Twips(y) + u' ' + Quoted(font.family()) + u' ' +
+    QString line = u"text "_s + Twips(x) + u' ' + Twips(y) + u' ' + InQuotes(font.family()) + u' ' +
                    NumberText(font.pointSizeF());
     if (font.bold())
         line += u" bold"_s;
     if (font.italic())
         line += u" italic"_s;
-    m_lines << line + u' ' + Quoted(text);
+    m_lines << line + u' ' + InQuotes(text);
 }

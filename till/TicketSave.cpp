@@ -24,12 +24,6 @@ namespace {
 constexpr int CreditSale = 1;
 constexpr int StatusClosed = 1;
 
-/// A text as a value of a statement. Quotes and backslashes in it go in as they were typed.
-QString Quoted(const QString& text)
-{
-    return u'\'' + text + u'\'';
-}
-
 void InsertTicket(const Ticket& ticket)
 {
     const QStringList values{

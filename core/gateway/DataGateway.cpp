@@ -148,3 +148,8 @@ DataGateway& Gateway()
     static DataGateway gateway;
     return gateway;
 }
+
+QString Quoted(const QString& text)
+{
+    return u'\'' + text + u'\'';
+}

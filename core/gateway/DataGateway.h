@@ -62,5 +62,8 @@ private:
     StatementObserver m_observer;
 };
 
+/// A text as a value of a statement, between quotes. Quotes and backslashes in it go in as they were typed.
+QString Quoted(const QString& text);
+
 /// The database object of the process, created on first use.
 DataGateway& Gateway();
