@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+std::optional<QList<PaperSize>> replacement;
+
 QString FreeFileName(const QString& title)
 {
     const QDir folder(PdfFolder());
@@ -25,8 +27,15 @@ QString FreeFileName(const QString& title)
 
 } // namespace
 
+void SetPaperSizes(std::optional<QList<PaperSize>> sizes)
+{
+    replacement = std::move(sizes);
+}
+
 QList<PaperSize> PaperSizes()
 {
+    if (replacement)
+        return *replacement;
     QList<PaperSize> sizes;
     const auto offered = QPrinterInfo::defaultPrinter().supportedPageSizes();
     for (const QPageSize& size : offered)

@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class QPrinter;
 
@@ -16,6 +17,10 @@ struct PaperSize {
 
 /// The paper sizes of the default print queue, in the queue's order. Empty without a queue.
 QList<PaperSize> PaperSizes();
+
+/// Puts a list in place of the queue's; std::nullopt brings the queue's back. Tests run with a queue and
+/// without.
+void SetPaperSizes(std::optional<QList<PaperSize>> sizes);
 
 /// The folder that documents go to as PDF files where there is no print queue: 单据PDF, beside the
 /// program.
