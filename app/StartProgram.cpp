@@ -25,6 +25,8 @@
 #include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
 #include "shell/frmMain.h"
+#include "shell/frmParameter.h"
+#include "shell/frmSetFeeLabel.h"
 #include "till/frmSale.h"
 
 using namespace Qt::StringLiterals;
@@ -47,6 +49,8 @@ void RegisterWindows()
     Add<frmSpash>(u"frmSpash"_s);
     Add<frmMain>(u"frmMain"_s);
     Add<frmAbout>(u"frmAbout"_s);
+    Add<frmParameter>(u"frmParameter"_s);
+    Add<frmSetFeeLabel>(u"frmSetFeeLabel"_s);
     Add<frmStore>(u"frmStore"_s);
     Add<frmSales>(u"frmSales"_s);
     Add<frmPRDSort>(u"frmPRDSort"_s);
