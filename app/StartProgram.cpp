@@ -24,9 +24,14 @@
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "shell/frmAbout.h"
+#include "shell/frmChangePWD.h"
+#include "shell/frmDataClear.h"
 #include "shell/frmMain.h"
 #include "shell/frmParameter.h"
+#include "shell/frmScroll.h"
 #include "shell/frmSetFeeLabel.h"
+#include "shell/frmUserList.h"
+#include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
 
 using namespace Qt::StringLiterals;
@@ -49,6 +54,11 @@ void RegisterWindows()
     Add<frmSpash>(u"frmSpash"_s);
     Add<frmMain>(u"frmMain"_s);
     Add<frmAbout>(u"frmAbout"_s);
+    Add<frmUserList>(u"frmUserList"_s);
+    Add<frmUserMenu>(u"frmUserMenu"_s);
+    Add<frmChangePWD>(u"frmChangePWD"_s);
+    Add<frmDataClear>(u"frmDataClear"_s);
+    Add<frmScroll>(u"frmScroll"_s);
     Add<frmParameter>(u"frmParameter"_s);
     Add<frmSetFeeLabel>(u"frmSetFeeLabel"_s);
     Add<frmStore>(u"frmStore"_s);

@@ -23,6 +23,9 @@ struct Sample {
 /// The two actions that are held against their replay.
 extern const QString KeystrokeAction;
 extern const QString SaveAction;
+/// Printing, without a queue: until the PDF file is written.
+extern const QString TicketDocument;
+extern const QString SettlementDocument;
 
 /// Resident memory of the program, kilobytes.
 struct Memory {

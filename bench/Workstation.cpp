@@ -6,10 +6,13 @@
 #include "core/gateway/DataGateway.h"
 #include "core/logon/Logon.h"
 #include "core/session/Session.h"
+#include "printing/Documents.h"
+#include "printing/PrintQueue.h"
 
 #include <QAction>
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
 #include <QLineEdit>
 #include <QTest>
@@ -127,9 +130,9 @@ Control* Workstation::Find(const QString& window, const QString& control)
     return found;
 }
 
-void Workstation::Type(const QString& control, const QString& text)
+void Workstation::Type(const QString& window, const QString& control, const QString& text)
 {
-    auto* box = Find<QLineEdit>(u"frmSale"_s, control);
+    auto* box = Find<QLineEdit>(window, control);
     box->setFocus();
     box->selectAll();
     QTest::keyClicks(box, text);
@@ -140,13 +143,13 @@ void Workstation::EnterTicket()
 {
     const auto turn = m_ticket++ % LotsInTurn;
     Loaded(u"frmSale"_s).TakeName(m_buyers[turn]);
-    Type(u"txtPRDNo"_s, m_lots[turn]);
-    Type(u"txtNum"_s, u"3"_s);
-    Type(u"txtSuttle"_s, u"52.5"_s);
-    Type(u"txtUPR"_s, u"3.8"_s);
-    Type(u"txtPerPack"_s, u"0.5"_s);
-    Type(u"txtListNo"_s, u"031206"_s);
-    Type(u"txtSalesID"_s, u"12"_s);
+    Type(u"frmSale"_s, u"txtPRDNo"_s, m_lots[turn]);
+    Type(u"frmSale"_s, u"txtNum"_s, u"3"_s);
+    Type(u"frmSale"_s, u"txtSuttle"_s, u"52.5"_s);
+    Type(u"frmSale"_s, u"txtUPR"_s, u"3.8"_s);
+    Type(u"frmSale"_s, u"txtPerPack"_s, u"0.5"_s);
+    Type(u"frmSale"_s, u"txtListNo"_s, u"031206"_s);
+    Type(u"frmSale"_s, u"txtSalesID"_s, u"12"_s);
     Find<QComboBox>(u"frmSale"_s, u"cmbSaleType"_s)->setCurrentIndex(1);
     Find<QComboBox>(u"frmSale"_s, u"cmbCheckStatus"_s)->setFocus();
     Settle();
@@ -197,6 +200,38 @@ void Workstation::SaveTickets(int tickets, bool isWarmUp)
         if (!isSaved)
             GiveUp(u"a ticket was not saved"_s);
     }
+}
+
+void Workstation::PrintTickets(int tickets)
+{
+    EnterTicket();
+    Print(TicketDocument, tickets, [] { Documents().PrintSaleList(false, true); });
+}
+
+void Workstation::PrintSettlements(int settlements)
+{
+    const QString window = u"frmCheckOut"_s;
+    Show(u"menuCheckOut"_s, window);
+    Type(window, u"txtPRDNo"_s, m_lots[0]);
+    QTest::keyClick(Find<QLineEdit>(window, u"txtPRDNo"_s), Qt::Key_Return);
+    Settle();
+    if (Find<QLineEdit>(window, u"txtCustName"_s)->text().isEmpty())
+        GiveUp(u"the settlement found no lot"_s);
+    Print(SettlementDocument, settlements, [] { Documents().PrintCheckOut(false, true); });
+    CloseWindow(window);
+}
+
+void Workstation::Print(const QString& action, int documents, const std::function<void()>& print)
+{
+    QDir folder(PdfFolder());
+    folder.mkpath(u"."_s); // or the user would be told of it
+    for (int i = 0; i <= documents; ++i) {
+        Measure(i == 0 ? u"first "_s + action : action, print);
+        const QStringList files = folder.entryList(QDir::Files);
+        if (files.size() != 1 || !folder.remove(files[0]))
+            GiveUp(u"a document was not handed over"_s);
+    }
+    folder.removeRecursively();
 }
 
 void Workstation::FillGoodsList(int fills)

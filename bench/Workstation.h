@@ -31,7 +31,12 @@ public:
     /// Tickets on credit to a buyer with a limit, under stock control, of lots with a deposit: the longest
     /// road through a save.
     void SaveTickets(int tickets, bool isWarmUp);
+    /// The entered ticket printed, as its save does it: until the document is handed over.
+    void PrintTickets(int tickets);
     void CloseTill();
+
+    /// A settlement of a lot on the screen, printed as its save does it.
+    void PrintSettlements(int settlements);
 
     /// Opens the list of the open lots, and rebuilds it, short and with every stock figure.
     void FillGoodsList(int fills);
@@ -49,11 +54,13 @@ private:
     void CloseWindow(const QString& window);
     template <typename Control>
     Control* Find(const QString& window, const QString& control);
-    void Type(const QString& control, const QString& text);
+    void Type(const QString& window, const QString& control, const QString& text);
     void EnterTicket();
 
     /// Takes the time of an action, then that of its statements replayed. Without a name: a warm-up.
     void Measure(const QString& name, const std::function<void()>& action, const Rewrite& rewrite = nullptr);
+    /// Prints the first document of its kind, then so many more. The documents are not kept.
+    void Print(const QString& action, int documents, const std::function<void()>& print);
     void FillGoodsListIn(const QString& action, const QString& bolShowEStore, int fills);
 
     QString m_iniPath;

@@ -17,6 +17,7 @@ namespace {
 constexpr int Starts = 2;
 constexpr int Keystrokes = 100;
 constexpr int Saves = 40;
+constexpr int Prints = 10;
 constexpr int Fills = 4;
 constexpr int WarmUps = Workstation::LotsInTurn;
 
@@ -37,7 +38,9 @@ void Measure(const QString& programFolder, QTextStream& samples)
     workstation.TypePieces(Keystrokes, false);
     workstation.SaveTickets(WarmUps, true);
     workstation.SaveTickets(Saves, false);
+    workstation.PrintTickets(Prints);
     workstation.CloseTill();
+    workstation.PrintSettlements(Prints);
     workstation.FillGoodsList(Fills);
     memory.atEnd = Workstation::ResidentMemory();
     workstation.CloseMainWindow();
@@ -63,6 +66,7 @@ Measurement Named(const QString& argument)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("CUPS_SERVER", "/nowhere"); // documents are measured without a queue
     qInstallMessageHandler(PassOverPlatform);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -3,11 +3,12 @@
 #include "core/base/Clock.h"
 #include "core/base/ProgramFiles.h"
 #include "core/base/RunTimeError.h"
+#include "core/common/Handlers.h"
+#include "core/common/Messages.h"
+#include "printing/CupsQueue.h"
 
 #include <QDir>
-#include <QPageSize>
-#include <QPrinter>
-#include <QPrinterInfo>
+#include <QFile>
 
 using namespace Qt::StringLiterals;
 
@@ -15,14 +16,25 @@ namespace {
 
 std::optional<QList<PaperSize>> replacement;
 
-QString FreeFileName(const QString& title)
+QPageSize PaperOf(int paperSizeCode, CupsQueue& queue)
 {
-    const QDir folder(PdfFolder());
-    const QString stem = Clock::Now().toString(u"yyyyMMdd-HHmmss-"_s) + title;
-    QString name = stem + u".pdf"_s;
-    for (int copy = 2; folder.exists(name); ++copy)
-        name = stem + u'-' + QString::number(copy) + u".pdf"_s;
-    return folder.filePath(name);
+    const QPageSize::PageSizeId known = QPageSize::id(paperSizeCode);
+    if (known != QPageSize::Custom)
+        return QPageSize(known);
+    const auto own = queue.Papers("media-default");
+    return own.isEmpty() ? QPageSize(QPageSize::A4) : own.first();
+}
+
+/// The user is told when the folder is made: afterwards it is known.
+void MakePdfFolder()
+{
+    const QString folder = PdfFolder();
+    if (QDir(folder).exists())
+        return;
+    if (!QDir().mkpath(folder))
+        throw RunTimeError(u"单据没有打印，也无法建立文件夹："_s + folder);
+    AfterHandler(
+        [folder] { ShowInfo(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + folder); });
 }
 
 } // namespace
@@ -37,10 +49,21 @@ QList<PaperSize> PaperSizes()
     if (replacement)
         return *replacement;
     QList<PaperSize> sizes;
-    const auto offered = QPrinterInfo::defaultPrinter().supportedPageSizes();
-    for (const QPageSize& size : offered)
-        sizes << PaperSize{size.name(), size.windowsId()};
+    const auto papers = CupsQueue().Papers("media-supported");
+    for (const QPageSize& paper : papers) {
+        if (QPageSize::id(paper.windowsId()) != QPageSize::Custom)
+            sizes << PaperSize{paper.name(), paper.windowsId()};
+    }
     return sizes;
+}
+
+QSizeF UprightSheet(int paperSizeCode)
+{
+    const QPageSize::PageSizeId known = QPageSize::id(paperSizeCode);
+    if (known != QPageSize::Custom)
+        return QPageSize::size(known, QPageSize::Millimeter);
+    CupsQueue queue;
+    return PaperOf(paperSizeCode, queue).size(QPageSize::Millimeter);
 }
 
 QString PdfFolder()
@@ -49,26 +72,45 @@ QString PdfFolder()
 }
 
 PrintJob::PrintJob(const QString& title, int paperSizeCode, bool landscape)
-    : m_printer(std::make_unique<QPrinter>(QPrinter::HighResolution))
+    : m_title(title), m_isLandscape(landscape), m_paper(&m_document), m_queue(std::make_unique<CupsQueue>())
 {
-    if (QPrinterInfo::defaultPrinter().isNull()) {
-        if (!QDir().mkpath(PdfFolder()))
-            throw RunTimeError(u"无法建立文件夹："_s + PdfFolder());
-        m_printer->setOutputFormat(QPrinter::PdfFormat);
-        m_printer->setOutputFileName(FreeFileName(title));
-    }
-    m_printer->setDocName(title);
-    m_printer->setFullPage(true);
-    const QPageSize::PageSizeId size = QPageSize::id(paperSizeCode);
-    if (size != QPageSize::Custom)
-        m_printer->setPageSize(QPageSize(size));
-    m_printer->setPageOrientation(landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
+    m_document.open(QIODevice::WriteOnly);
+    m_paper.setTitle(title);
+    m_paper.setPageLayout(QPageLayout(PaperOf(paperSizeCode, *m_queue),
+                                      landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
+                                      QMarginsF()));
 }
 
 PrintJob::~PrintJob() = default;
 
 void PrintJob::HandOver()
 {
-    if (!m_printer->outputFileName().isEmpty() && !FileExists(m_printer->outputFileName()))
-        throw RunTimeError(u"无法写入文件："_s + m_printer->outputFileName());
+    if (!m_document.data().trimmed().endsWith("%%EOF"))
+        throw RunTimeError(u"单据没有画完："_s + m_title);
+    if (m_queue->Found() == CupsQueue::State::None) {
+        KeepAsFile();
+        return;
+    }
+    const QString refusal =
+        m_queue->Refusal(m_title, m_paper.pageLayout().pageSize(), m_isLandscape, m_document.data());
+    if (!refusal.isEmpty())
+        throw RunTimeError(u"%1，单据存为文件：%2"_s.arg(refusal, KeepAsFile()));
+}
+
+QString PrintJob::KeepAsFile() const
+{
+    MakePdfFolder();
+    const QDir folder(PdfFolder());
+    const QString stem = Clock::Now().toString(u"yyyyMMdd-HHmmss-"_s) + m_title;
+    QFile file(folder.filePath(stem + u".pdf"_s));
+    // Another till may write into the same folder: only opening tells whether a name is free.
+    for (int copy = 2; !file.open(QIODevice::WriteOnly | QIODevice::NewOnly) && file.exists(); ++copy)
+        file.setFileName(folder.filePath(u"%1-%2.pdf"_s.arg(stem).arg(copy)));
+    const bool isOpen = file.isOpen();
+    if (!isOpen || file.write(m_document.data()) != m_document.size() || !file.flush()) {
+        if (isOpen)
+            QFile::remove(file.fileName()); // the file's own remove() would first write what is left
+        throw RunTimeError(u"单据没有打印，也无法写入文件："_s + file.fileName());
+    }
+    return file.fileName();
 }

@@ -3,10 +3,8 @@
 #include "core/base/RunTimeError.h"
 #include "printing/PrintQueue.h"
 
-#include <QPageSize>
 #include <QPainter>
-#include <QPrinter>
-#include <QPrinterInfo>
+#include <QPdfWriter>
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +30,7 @@ SystemPrinter::~SystemPrinter() = default;
 
 QSizeF SystemPrinter::SheetSize() const
 {
-    const QSizeF upright = UprightSheet(m_paperCode);
+    const QSizeF upright = UprightSheet(m_paperCode) * TwipsPerMillimetre;
     return m_isLandscape ? upright.transposed() : upright;
 }
 
@@ -77,19 +75,8 @@ void SystemPrinter::KillDoc()
 {
     if (!m_job)
         return;
-    m_job->job.Paper().abort();
     m_job.reset();
     m_hasPageBreak = false;
     SetCurrentX(0);
     SetCurrentY(0);
-}
-
-QSizeF UprightSheet(int paperCode)
-{
-    QPageSize size(QPageSize::id(paperCode));
-    if (paperCode <= 0 || !size.isValid())
-        size = QPrinterInfo::defaultPrinter().defaultPageSize();
-    if (!size.isValid())
-        size = QPageSize(QPageSize::A4);
-    return size.size(QPageSize::Millimeter) * TwipsPerMillimetre;
 }

@@ -54,6 +54,3 @@ private:
     bool m_isLandscape = false;
     bool m_hasPageBreak = false;
 };
-
-/// A sheet of a paper size upright, in twips; the queue's own sheet for a code that is not in the table.
-QSizeF UprightSheet(int paperCode);

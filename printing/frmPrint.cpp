@@ -9,6 +9,7 @@
 #include "core/forms/WindowRegistry.h"
 #include "core/session/Session.h"
 #include "printing/DocumentRules.h"
+#include "printing/PrintQueue.h"
 #include "printing/clsPrint.h"
 #include "printing/ctlPreview.h"
 #include "printing/frmPrintEStore.h"
@@ -170,10 +171,10 @@ void frmPrint::PrintForm(const DocumentRules& rules, const QWidget& form, bool p
 void frmPrint::ChoosePaper(const QWidget& form)
 {
     const int code = Session::PaperSizeCode;
-    const QSizeF upright = UprightSheet(code);
-    // The forms are wider than a small sheet stands upright, and fit on it when it lies.
+    const QSizeF upright = UprightSheet(code) * TwipsPerCentimetre / 10;
+    // The forms are as wide as A4 stands upright and A5 lies, to a pixel.
     const bool isTurned =
-        upright.width() < form.width() * TwipsPerPixel && upright.height() > upright.width();
+        upright.width() < (form.width() - 1) * TwipsPerPixel && upright.height() > upright.width();
     m_printer.SetPaperSize(code);
     m_printer.SetLandscape(isTurned);
     const QString name = isTurned         ? QString()

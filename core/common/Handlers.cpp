@@ -3,6 +3,7 @@
 #include "core/base/RunTimeError.h"
 #include "core/common/Messages.h"
 
+#include <QCoreApplication>
 #include <QLineEdit>
 #include <QPointer>
 
@@ -15,6 +16,7 @@ namespace {
 
 int depth = 0;
 std::exception_ptr keptFailure;
+std::vector<std::function<void()>> actionsAfterwards;
 
 int underWay = 0; // handlers on the stack, those that wait for a nested loop included
 std::vector<QPointer<QObject>> closedWindows;
@@ -58,6 +60,8 @@ void RunHandler(const std::function<void()>& handler)
         const std::exception_ptr kept = std::exchange(keptFailure, nullptr);
         if (failure || kept)
             ShowFailure(failure ? failure : kept);
+        for (const auto& action : std::exchange(actionsAfterwards, {}))
+            RunHandler(action);
     }
     if (--underWay == 0)
         DestroyClosedWindows();
@@ -71,6 +75,16 @@ void DestroyWhenIdle(QObject* window)
         closedWindows.emplace_back(window);
 }
 
+void AfterHandler(std::function<void()> action)
+{
+    if (depth > 0)
+        actionsAfterwards.push_back(std::move(action));
+    else
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), [action = std::move(action)] { RunHandler(action); },
+            Qt::QueuedConnection);
+}
+
 void WriteText(QLineEdit* box, const QString& text)
 {
     ++depth;
@@ -81,11 +95,13 @@ void WriteText(QLineEdit* box, const QString& text)
 }
 
 NestedLoop::NestedLoop()
-    : m_outerDepth(std::exchange(depth, 0)), m_outerFailure(std::exchange(keptFailure, nullptr))
+    : m_outerDepth(std::exchange(depth, 0)), m_outerFailure(std::exchange(keptFailure, nullptr)),
+      m_outerActions(std::exchange(actionsAfterwards, {}))
 {}
 
 NestedLoop::~NestedLoop()
 {
     depth = m_outerDepth;
     keptFailure = m_outerFailure;
+    actionsAfterwards = std::move(m_outerActions);
 }

@@ -2,6 +2,7 @@
 
 #include <exception>
 #include <functional>
+#include <vector>
 
 class QLineEdit;
 class QObject;
@@ -21,6 +22,11 @@ void DestroyWhenIdle(QObject* window);
 /// its failure is thrown here, so that it ends the routine that wrote.
 void WriteText(QLineEdit* box, const QString& text);
 
+/// Runs `action` as a handler of its own when the one under way has ended, its failure shown: what a
+/// save has to tell must not stand between its statements, nor behind a box of the save itself. Where no
+/// handler is under way, the event loop runs it next.
+void AfterHandler(std::function<void()> action);
+
 /// Stands while a modal window or box runs an event loop of its own inside a handler: events handled
 /// there begin afresh and show their own failures, and one that waits outside is none of theirs.
 class NestedLoop {
@@ -33,4 +39,5 @@ public:
 private:
     int m_outerDepth;
     std::exception_ptr m_outerFailure;
+    std::vector<std::function<void()>> m_outerActions;
 };

@@ -18,6 +18,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The topmost row of a list; in a tree a first child stands below its parent. No row counts as the first.
+bool IsFirst(const QModelIndex& row)
+{
+    return row.row() <= 0 && !row.parent().isValid();
+}
+
+} // namespace
+
 FieldRule& FieldRule::Numeric(const QString& message)
 {
     m_numericMessage = message;
@@ -215,7 +225,7 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
         RunHandler([this, &rule] { MoveOn(rule, false); });
         return true;
     case Qt::Key_Up:
-        if ((combo && combo->currentIndex() > 0) || (list && list->currentIndex().row() > 0))
+        if ((combo && combo->currentIndex() > 0) || (list && !IsFirst(list->currentIndex())))
             return false;
         RunHandler([this, &rule] { MoveBack(rule); });
         return true;

@@ -9,19 +9,15 @@ SET @today = CURDATE();
 
 UPDATE Sys_Define SET CompName='青禾果品代销行', DepartName='南区水果批发十二号档';
 
--- A cashier and a bookkeeper beside the first user, who keeps all rights.
+-- Beside the first user, who has all rights: a cashier, who has the till and sees and adjusts his own
+-- tickets only, and a bookkeeper, who has everything but the till.
 INSERT INTO User_List (UserID, UserName, UserPWD, UserIP, bolIP, bolSearch, bolEdit) VALUES
   ('02', '收银员', '2', '', '0', '0', '0'),
   ('03', '会计', '3', '', '0', '1', '1');
 
 INSERT INTO User_Menu (UserID, MenuName)
-  SELECT '02', MenuName FROM Menu_List WHERE MenuName IN ('menuSale', 'menuRptSaleDetail', 'menuESale',
-    'menuForegift', 'menuRptForegift', 'menuChangePWD') ORDER BY MenuID;
-
-INSERT INTO User_Menu (UserID, MenuName)
-  SELECT '03', MenuName FROM Menu_List WHERE MenuName IN ('menuCustList', 'menuChangePWD', 'menuCheckOut',
-    'menuECheckOut', 'menuDelCheckOut', 'menuDebit', 'menuCheckCheque', 'menuFeeType', 'menuFee', 'menuEditFee')
-    OR MenuName LIKE 'menuRpt%' ORDER BY MenuID;
+  SELECT IF(MenuName IN ('menuSale', 'menuRptSaleDetail', 'menuESale', 'menuForegift', 'menuRptForegift'), '02', '03'),
+    MenuName FROM Menu_List ORDER BY MenuID;
 
 INSERT INTO Store (Store) VALUES ('一号库'), ('二号库'), ('冷库'), ('门口档');
 

@@ -750,6 +750,36 @@ TEST_F(Chain, AHandlerInANestedLoopShowsItsOwnFailureAtOnce)
     boxes.Verify();
 }
 
+TEST_F(Chain, WhatIsPutOffWaitsForTheEndOfTheHandlerItsBoxesAndItsFailure)
+{
+    OpenWith([this](ProbeForm& form, QLineEdit* a, QLineEdit* /*b*/, QLineEdit* /*c*/) {
+        form.Chain().Field(a).OnEnter([this] {
+            AfterHandler([] { ShowInfo(u"事后"_s); });
+            ShowInfo(u"问"_s);
+            log << u"went on"_s;
+            throw RunTimeError(u"坏了"_s);
+        });
+    });
+    boxes.Expect(u"问"_s);
+    boxes.Expect(u"坏了"_s);
+    boxes.Expect(u"事后"_s);
+    boxes.WhileOpen([this] {
+        RunHandler([this] { log << u"another handler"_s; });
+        Settle();
+    });
+    Press(Qt::Key_Return);
+    boxes.Verify();
+    EXPECT_EQ(log, (QStringList{u"another handler"_s, u"went on"_s}));
+}
+
+TEST_F(Chain, WhatIsPutOffOutsideAnyHandlerRunsFromTheEventLoop)
+{
+    AfterHandler([] { ShowInfo(u"事后"_s); });
+    EXPECT_EQ(boxes.Seen(), QStringList());
+    boxes.Expect(u"事后"_s);
+    Settle();
+}
+
 TEST_F(Chain, NoFailureOfOursOrOfTheLibraryCrossesTheEventLoop)
 {
     OpenWith([](ProbeForm& form, QLineEdit* a, QLineEdit* b, QLineEdit* /*c*/) {

@@ -3,6 +3,7 @@
 
 #include <QListWidget>
 #include <QPushButton>
+#include <QTreeWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -52,6 +53,27 @@ TEST_F(ListAndButtonKeys, UpAndDownChooseInTheListAndUpLeavesItFromTheFirstRow)
     EXPECT_EQ(FocusName(), u"lstRows"_s);
     Press(Qt::Key_Up);
     EXPECT_EQ(FocusName(), u"txtBefore"_s);
+}
+
+TEST_F(ListAndButtonKeys, InATreeUpReachesTheRootAndLeavesOnlyFromThere)
+{
+    QTreeWidget* tree = nullptr;
+    RegisterProbe(u"frmTree"_s, [&tree](ProbeForm& form) {
+        auto* before = form.Add(u"txtAbove"_s);
+        tree = form.Add<QTreeWidget>(u"tvRows"_s);
+        auto* root = new QTreeWidgetItem(tree, {u"root"_s});
+        tree->setCurrentItem(new QTreeWidgetItem(root, {u"first child"_s}));
+        root->setExpanded(true);
+        form.Chain().Field(before);
+        form.Chain().List(tree);
+    });
+    Open(u"frmTree"_s);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Up);
+    EXPECT_EQ(FocusName(), u"tvRows"_s);
+    EXPECT_EQ(tree->currentItem(), tree->topLevelItem(0));
+    Press(Qt::Key_Up);
+    EXPECT_EQ(FocusName(), u"txtAbove"_s);
 }
 
 TEST_F(ListAndButtonKeys, EnterMovesOnFromTheListAndUpComesBackToIt)

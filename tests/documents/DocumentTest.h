@@ -17,6 +17,8 @@ protected:
     void Fill(const QString& document);
     /// Prints it, as its caller does. The slips must be filled anew for each print.
     void Print(const QString& document, bool prePrinted, bool framed);
+    /// The same where it is made to fail.
+    void PrintFailing(const QString& document);
     /// The form that the document is.
     QWidget* FormOf(const QString& document);
     /// Offsets of the document's paper, in centimetres.
@@ -29,6 +31,7 @@ protected:
     frmPrint& Printer();
 
 private:
+    void Call(const QString& document, bool prePrinted, bool framed);
     void FillTicket();
     void FillAdvance();
     void FillSettlement(const QString& form);

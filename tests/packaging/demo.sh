@@ -94,8 +94,14 @@ same "counters for bills that are not there" 0 "$(sql D "SELECT COUNT(*) FROM Co
 checking "three users: owner, cashier, bookkeeper"
 same "users" "01管理员1 02收银员2 03会计3" "$(sql D "SELECT GROUP_CONCAT(UserID,UserName,UserPWD ORDER BY UserID SEPARATOR ' ') FROM User_List")"
 none "right to something that is not in the menu" D "SELECT MenuName FROM User_Menu WHERE MenuName NOT IN (SELECT MenuName FROM Menu_List)"
-none "the cashier settles" D "SELECT MenuName FROM User_Menu WHERE UserID='02' AND MenuName LIKE '%CheckOut%'"
-same "the cashier sees and adjusts his own tickets only" 00 "$(sql D "SELECT CONCAT(bolSearch,bolEdit) FROM User_List WHERE UserID='02'")"
+none "right of the owner missing" D "SELECT MenuName FROM Menu_List WHERE MenuName NOT IN (SELECT MenuName FROM User_Menu WHERE UserID='01')"
+same "the cashier has the till" "menuSale menuRptSaleDetail menuESale menuForegift menuRptForegift" \
+    "$(sql D "SELECT GROUP_CONCAT(m.MenuName ORDER BY m.MenuID SEPARATOR ' ') FROM User_Menu u JOIN Menu_List m ON m.MenuName=u.MenuName WHERE u.UserID='02'")"
+none "the bookkeeper has all the cashier has not, and nothing else" D "SELECT m.MenuName FROM Menu_List m
+    WHERE (SELECT COUNT(*) FROM User_Menu u WHERE u.MenuName=m.MenuName AND u.UserID IN ('02','03'))<>1"
+same "right given twice" 88/88 "$(sql D "SELECT COUNT(DISTINCT UserID,MenuName) FROM User_Menu")/$(sql D "SELECT COUNT(*) FROM User_Menu")"
+same "whose tickets the owner, the cashier and the bookkeeper see and adjust" "0111 0200 0311" \
+    "$(sql D "SELECT GROUP_CONCAT(UserID,bolSearch,bolEdit ORDER BY UserID SEPARATOR ' ') FROM User_List")"
 
 checking "it is the same stall each time"
 "$packaging/create-account-set" --socket "$socket" --database D2 --demo

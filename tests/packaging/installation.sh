@@ -25,6 +25,9 @@ for i in {1..14}; do
     grep -q "^CREATE TABLE $name (" "$root/core/schema/tables.sql" || wrong "T$i names <$name>, which is no table"
     [ -n "$(value "$table" "T$i" TableText)" ] || wrong "T$i has no text"
 done
+# Everything that business writes, under the names of the tables, once each.
+same "tables" "CheckOut CheckOut_B Count_Bill CustDebit Cust_List DFN_Pack_B EStore_List ErrInfo Fee_List Foregift_RTN PRD_List Pack_List Sal_List Sal_List_B" \
+    "$(for i in {1..14}; do value "$table" "T$i" TableName; done | sort | paste -sd' ')"
 same "first and last" "PRD_List货源登记 Cust_List客户信息" \
     "$(value "$table" T1 TableName)$(value "$table" T1 TableText) $(value "$table" T14 TableName)$(value "$table" T14 TableText)"
 

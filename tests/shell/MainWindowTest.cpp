@@ -268,7 +268,7 @@ TEST_F(MainWindow, DepositReturnReportSwitchesDeleteOn)
 TEST_F(MainWindow, AWindowOfALaterReleaseSaysSoAndTakesNothing)
 {
     OpenFrame();
-    for (const QString& entry : {u"menuUserMenu"_s, u"menuEStore"_s, u"menuRptCheckOutDetail"_s}) {
+    for (const QString& entry : {u"menuPackList"_s, u"menuEStore"_s, u"menuRptCheckOutDetail"_s}) {
         boxes.Expect(u"此功能在本版本中尚未提供。"_s);
         Choose(entry);
         EXPECT_TRUE(Session::WindowSlotFree) << entry.toStdString();

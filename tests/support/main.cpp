@@ -1,4 +1,5 @@
 #include "core/forms/Skin.h"
+#include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
 
 #include <QApplication>
@@ -28,11 +29,11 @@ int main(int argc, char** argv)
 {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("CUPS_SERVER", "/nowhere"); // never a queue of this machine: a test that prints starts its own
     qInstallMessageHandler(Listen);
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     InstallSkin(application);
+    PrintServer::UseNone();
     ::testing::InitGoogleTest(&argc, argv);
     const int result = RUN_ALL_TESTS();
     TestServer::Instance().Stop();

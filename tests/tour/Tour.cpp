@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QProcess>
 #include <QScreen>
 #include <QTest>
 #include <QTimer>
@@ -38,6 +39,11 @@ void Tour::Step(const QString& title)
 void Tour::Picture(const QString& name)
 {
     Settle();
+    PictureAsItIs(name);
+}
+
+void Tour::PictureAsItIs(const QString& name)
+{
     const QString file = u"%1-%2.png"_s.arg(++m_pictureNumber, 2, 10, QChar(u'0')).arg(name);
     const QPixmap screen = QApplication::primaryScreen()->grabWindow(0);
     if (!screen.save(m_pictures.filePath(file))) {
@@ -127,6 +133,21 @@ void Tour::ExpectBox(const QString& text, const QString& picture, Qt::Key answer
     m_boxAnswer = answer;
     m_awaitsBox = true;
     QTimer::singleShot(PollEvery, this, &Tour::AnswerBox);
+}
+
+void Tour::KeepDocuments(const QString& folder, int expected)
+{
+    const QDir printed(folder);
+    const QStringList files = printed.entryList({u"*.pdf"_s}, QDir::Files, QDir::Name);
+    Check(u"documents in "_s + folder, QString::number(expected), QString::number(files.size()));
+    for (int i = 0; i < files.size(); ++i) {
+        const QString title = files[i].section(u'-', 2, 2).remove(u".pdf"_s);
+        const QString kept = m_pictures.filePath(u"paper-%1-%2"_s.arg(i + 1, 2, 10, QChar(u'0')).arg(title));
+        QFile::copy(printed.filePath(files[i]), kept + u".pdf"_s);
+        const bool isDrawn = QProcess::execute(u"pdftoppm"_s, {u"-r"_s, u"80"_s, u"-png"_s, u"-singlefile"_s,
+                                                               kept + u".pdf"_s, kept}) == 0;
+        Check(u"picture of "_s + files[i], u"drawn"_s, isDrawn ? u"drawn"_s : u"not drawn"_s);
+    }
 }
 
 void Tour::AnswerBox()

@@ -23,6 +23,8 @@ public:
     void Step(const QString& title);
     /// A picture of the whole screen as "NN-name.png".
     void Picture(const QString& name);
+    /// The same without letting the program work on first, for what is there for a moment only.
+    void PictureAsItIs(const QString& name);
     /// Prints what the tables say that they did not say before.
     void PrintChanges();
 
@@ -40,6 +42,10 @@ public:
     void ExpectBox(const QString& text, const QString& picture = QString(), Qt::Key answer = Qt::Key_Return);
     /// Fails the tour when the expected box did not come.
     void CheckBoxCame();
+
+    /// Checks how many documents were printed into a folder, and leaves them beside the pictures, as they
+    /// are and as pictures.
+    void KeepDocuments(const QString& folder, int expected);
 
     int Failures() const { return m_failures; }
 

@@ -1,21 +1,32 @@
-// A lot's road: logon, master data, intake, a batch at the till, refusals, settlement, a locked lot.
+// A lot's road: logon, master data, intake, a batch at the till, refusals, settlement, a locked lot. Then a
+// cashier is added, given the till, and logs on.
 
 #include "app/StartProgram.h"
 #include "core/base/ProgramFiles.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
+#include "core/gateway/DataGateway.h"
+#include "printing/Documents.h"
+#include "printing/PrintQueue.h"
+#include "printing/frmPrintEStore.h"
+#include "settlement/frmDebit.h"
+#include "shell/MenuTable.h"
 #include "tests/support/Keys.h"
+#include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
 #include "tests/tour/Tour.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDate>
 #include <QFile>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -177,15 +188,19 @@ void TakeIn(Tour& tour)
     tour.WaitForWindow(u"frmPRDList"_s);
     BookIn({u"A"_s, u"100"_s, u"15"_s, QString(), u"王老板"_s, u"88"_s, false});
     tour.Picture(u"frmPRDList"_s);
+    // Without a print queue the slip becomes a file, and its folder is told of once.
+    tour.ExpectBox(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + PdfFolder(),
+                   u"frmPRDList-slip-as-file"_s);
     Press(Qt::Key_Return);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmPRDList"_s);
     BookIn({u"B"_s, u"50"_s, u"20"_s, u"10"_s, u"赵老板"_s, QString(), true});
     tour.Picture(u"frmPRDList-locked"_s);
     Press(Qt::Key_Return);
     tour.PrintChanges();
-    tour.CheckValue(
-        u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
-        Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
-            u"002 B-001 50.000000 50.000000 1 1 0"_s);
+    tour.CheckValue(u"SELECT ID,PRDNo,Num,Num_Sal,bolPack,bolFixed,bolCheckOut FROM PRD_List ORDER BY ID"_s,
+                    Today() + u"001 A-001 100.000000 100.000000 0 0 0 / "_s + Today() +
+                        u"002 B-001 50.000000 50.000000 1 1 0"_s);
     tour.CheckValue(u"SELECT CurrNumber FROM Count_Bill WHERE TID='C01'"_s, u"2"_s);
     CloseWindow(u"frmPRDList"_s);
     tour.WaitForWindow(u"frmDataList"_s);
@@ -350,7 +365,8 @@ void SettleLots(Tour& tour)
     tour.PrintChanges();
     tour.CheckValue(
         u"SELECT ID,PRDNo,Num,Num_Sal,bolCheckOut,bolFixed FROM PRD_List WHERE PRDNo='B-001' ORDER BY ID"_s,
-        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() + u"003 B-001 30.000000 30.000000 0 1"_s);
+        Today() + u"002 B-001 50.000000 30.000000 1 1 / "_s + Today() +
+            u"003 B-001 30.000000 30.000000 0 1"_s);
     CloseWindow(u"frmCheckOut"_s);
 
     tour.ChooseMenu(2, 1);
@@ -363,15 +379,218 @@ void SettleLots(Tour& tour)
 void SecondLayout(Tour& tour)
 {
     tour.Step(u"第二种结算格式"_s);
+    tour.ChooseMenu(3, 1);
+    tour.WaitForWindow(u"frmSale"_s);
+    Enter(u"txtVendee"_s, QString());
+    TypeTicket(u"B-001"_s, u"12"_s, QString(), u"4.5"_s);
+    Enter(u"cmbSaleType"_s, QString());
+    Press(Qt::Key_Return);
+    CloseWindow(u"frmSale"_s);
     Windows().Show(u"frmCheckOutA"_s, Windows().Find(u"frmMain"_s)->Widget());
     tour.WaitForWindow(u"frmCheckOutA"_s);
+    TypeSettlement(u"B-001"_s, u"5"_s, u"30"_s);
     tour.Picture(u"frmCheckOutA"_s);
+    Press(Qt::Key_Return);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT PRDNo,Num,Amount FROM CheckOut ORDER BY CheckNo DESC LIMIT 1"_s,
+                    u"B-001 12.000000 54.000000"_s);
     CloseWindow(u"frmCheckOutA"_s);
     tour.ChooseMenu(8, 2);
     tour.WaitForWindow(u"frmAbout"_s);
     tour.Picture(u"frmAbout"_s);
     Windows().Find(u"frmAbout"_s)->Widget()->close();
     Settle();
+}
+
+/// The manager adds a cashier and grants him the till.
+void AddCashier(Tour& tour)
+{
+    tour.Step(u"用户信息：加一个收银员"_s);
+    tour.ChooseMenu(1, 1);
+    tour.WaitForWindow(u"frmDataList"_s);
+    Press(Qt::Key_N, Qt::ControlModifier);
+    tour.WaitForWindow(u"frmUserList"_s);
+    Enter(u"txtUserID"_s, u"05"_s);
+    Enter(u"txtUserName"_s, u"小陈"_s);
+    Enter(u"txtUserPWD"_s, u"55"_s);
+    Enter(u"txtUserIP"_s, QString());
+    Press(Qt::Key_Return); // chkIP: from any workstation
+    Press(Qt::Key_Return); // chkSearch: his own bills
+    tour.Picture(u"frmUserList"_s);
+    Press(Qt::Key_Return); // chkEdit
+    tour.CheckText(u"frmUserList"_s, u"txtUserID"_s, QString());
+    CloseWindow(u"frmUserList"_s);
+    tour.WaitForWindow(u"frmDataList"_s);
+    tour.Picture(u"frmDataList-frmUserList"_s);
+    Press(Qt::Key_F4, Qt::ControlModifier);
+    WaitFor([] { return Windows().Find(u"frmDataList"_s) == nullptr; });
+    tour.PrintChanges();
+    tour.CheckValue(
+        u"SELECT UserID,UserName,UserPWD,bolIP,bolSearch,bolEdit FROM User_List ORDER BY UserID"_s,
+        u"01 管理员 1 0 1 1 / 05 小陈 55 0 0 0"_s);
+
+    tour.Step(u"用户权限：只给收银开票"_s);
+    tour.ChooseMenu(1, 2);
+    tour.WaitForWindow(u"frmUserMenu"_s);
+    tour.Picture(u"frmUserMenu-empty"_s);
+    Press(Qt::Key_Down); // 管理员
+    Press(Qt::Key_Down); // 小陈
+    tour.CheckText(u"frmUserMenu"_s, u"lblRights"_s, u"小陈 的权限"_s);
+    Press(Qt::Key_Return);
+    const auto* lines = Windows().Find(u"frmUserMenu"_s)->Widget()->findChild<QListWidget*>(u"lstMenuList"_s);
+    for (int i = 0; i < lines->count() && lines->currentItem()->text() != u"收银开票"; ++i)
+        Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    tour.Picture(u"frmUserMenu"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    tour.CheckText(u"frmUserMenu"_s, u"lblRights"_s, u"小陈 的权限（已保存）"_s);
+    CloseWindow(u"frmUserMenu"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT MenuName FROM User_Menu WHERE UserID='05'"_s, u"menuSale"_s);
+}
+
+QString EntriesThatAreOn()
+{
+    QStringList on;
+    const QWidget* frame = Windows().Find(u"frmMain"_s)->Widget();
+    for (const TopMenu& top : MenuBar()) {
+        for (const MenuEntry& entry : top.entries) {
+            if (frame->findChild<QAction*>(entry.control)->isEnabled())
+                on << entry.caption;
+        }
+    }
+    return on.join(u' ');
+}
+
+/// Alt+number opens a menu of the bar; its picture; Esc closes it.
+void LookAtMenu(Tour& tour, Qt::Key number, const QString& picture)
+{
+    tour.WaitForWindow(u"frmMain"_s);
+    Press(number, Qt::AltModifier);
+    WaitFor([] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()) != nullptr; });
+    tour.Picture(picture);
+    while (QWidget* menu = QApplication::activePopupWidget()) {
+        QTest::keyClick(menu, Qt::Key_Escape);
+        Settle();
+    }
+}
+
+/// The manager gives himself another password, once with the wrong old one.
+void ChangePassword(Tour& tour)
+{
+    tour.Step(u"修改密码"_s);
+    tour.ChooseMenu(1, 7);
+    tour.WaitForWindow(u"frmChangePWD"_s);
+    Enter(u"txtOldPWD"_s, u"2"_s);
+    Enter(u"txtNewPWD"_s, u"88"_s);
+    tour.ExpectBox(u"原密码输入错误!"_s, u"frmChangePWD-refused"_s);
+    Enter(u"txtConfirmPWD"_s, u"88"_s);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmChangePWD"_s);
+    Enter(u"txtOldPWD"_s, u"1"_s);
+    Press(Qt::Key_Return);
+    tour.ExpectBox(u"密码修改成功，新密码将在下次启动时生效！"_s);
+    Press(Qt::Key_Return);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmChangePWD"_s);
+    CloseWindow(u"frmChangePWD"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT UserPWD FROM User_List WHERE UserID='01'"_s, u"88"_s);
+}
+
+/// Empties two tables, with a picture of the progress while the second goes.
+void ClearTables(Tour& tour)
+{
+    tour.Step(u"数据清空：收银清单与调整记录"_s);
+    tour.ChooseMenu(7, 2);
+    tour.WaitForWindow(u"frmDataClear"_s);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Down); // 收银清单
+    Press(Qt::Key_Space);
+    Press(Qt::Key_Down);
+    Press(Qt::Key_Space);
+    tour.Picture(u"frmDataClear"_s);
+    Gateway().SetStatementObserver([&tour](const QString& statement) {
+        if (statement != u"DELETE FROM Sal_List_B")
+            return;
+        tour.ExpectBox(u"数据清空完毕!"_s);
+        tour.PictureAsItIs(u"frmScroll"_s);
+    });
+    tour.ExpectBox(u"真的要清空这些数据表吗？注意：清空过后数据将不可恢复！"_s, u"frmDataClear-question"_s,
+                   Qt::Key_Y);
+    Press(Qt::Key_S, Qt::AltModifier);
+    tour.CheckBoxCame();
+    Gateway().SetStatementObserver(nullptr);
+    tour.WaitForWindow(u"frmDataClear"_s);
+    CloseWindow(u"frmDataClear"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT (SELECT COUNT(*) FROM Sal_List),(SELECT COUNT(*) FROM PRD_List)"_s, u"0 3"_s);
+}
+
+/// The new cashier logs on, and sees the till and nothing else.
+void CashierLogsOn(Tour& tour)
+{
+    tour.Step(u"新收银员登录：只看得到收银开票"_s);
+    StartProgram();
+    tour.WaitForWindow(u"frmLogon"_s);
+    Enter(u"cmbUserName"_s, u"小陈"_s);
+    Enter(u"txtUserPWD"_s, u"55"_s);
+    tour.WaitForWindow(u"frmMain"_s);
+    WaitFor([] { return Windows().Find(u"frmSpash"_s) == nullptr; });
+    tour.CheckText(u"frmMain"_s, u"panel3"_s, u"小陈[05]"_s);
+    tour.Check(u"menu entries that are on"_s, u"收银开票 帮助 关于产品"_s, EntriesThatAreOn());
+    LookAtMenu(tour, Qt::Key_1, u"frmMain-cashier-master-data"_s);
+    LookAtMenu(tour, Qt::Key_3, u"frmMain-cashier-till"_s);
+    tour.ChooseMenu(3, 1);
+    tour.WaitForWindow(u"frmSale"_s);
+    tour.CheckText(u"frmSale"_s, u"txtSalNo"_s, u"NO.05"_s + Today().mid(2) + u"001"_s);
+    tour.Picture(u"frmSale-cashier"_s);
+    CloseWindow(u"frmSale"_s);
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT UserID FROM User_Status"_s, u"05"_s);
+}
+
+/// The two slips whose screens are not built yet, and what all the documents became.
+void Papers(Tour& tour)
+{
+    tour.Step(u"单据：库存变更单、预支款登记单"_s);
+    frmPrintEStore::Load().Fill({.date = QDate::currentDate(),
+                                 .custName = u"赵老板"_s,
+                                 .prdNo = u"B-001"_s,
+                                 .prdName = u"砀山梨"_s,
+                                 .custInDate = u"2026-03-09"_s,
+                                 .custInNum = 50,
+                                 .store = u"一号库"_s,
+                                 .kind = u"损耗"_s,
+                                 .num = 2.5,
+                                 .stock = 47.5,
+                                 .memo = u"压坏，已当面点清"_s});
+    Documents().PrintRpt(u"EStore"_s);
+    Documents().PrintEStore(false, true);
+
+    Windows().Register(u"frmDebit"_s, [](QWidget* owner) { return new frmDebit(owner); });
+    Windows().Show(u"frmDebit"_s, Windows().Find(u"frmMain"_s)->Widget());
+    QWidget* debit = tour.WaitForWindow(u"frmDebit"_s);
+    const QList<std::pair<QString, QString>> texts{
+        {u"txtPRDNo"_s, u"B-001"_s},           {u"txtCustName"_s, u"赵老板"_s},
+        {u"txtPRDName"_s, u"砀山梨"_s},        {u"txtNum"_s, u"50"_s},
+        {u"txtStore"_s, u"一号库"_s},          {u"txtCustInDate"_s, u"2026-03-09"_s},
+        {u"txtAmount"_s, u"77,296.88"_s},      {u"txtDebitAmount"_s, u"20,000.0"_s},
+        {u"txtTDebitAmount"_s, u"56,500.5"_s}, {u"txtMemo"_s, u"现金，货主本人到场领取"_s},
+    };
+    for (const auto& [name, text] : texts)
+        debit->findChild<QLineEdit*>(name)->setText(text);
+    tour.Picture(u"frmDebit"_s);
+    Documents().PrintDebit(false, true);
+    Documents().PrintDebit(false, false); // to the preview
+    debit->close();
+    Settle();
+    tour.Picture(u"frmPrint"_s);
+    Windows().Find(u"frmPrint"_s)->Widget()->close();
+    Settle();
+
+    // Two lot slips, four tickets, three settlements, and these two.
+    tour.KeepDocuments(PdfFolder(), 11);
 }
 
 void Leave(Tour& tour)
@@ -397,6 +616,7 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(); // its failure records are the tour's too
     InstallSkin(application);
+    PrintServer::UseNone();
     QCommandLineParser options;
     const QCommandLineOption out(u"out"_s, u"folder of the pictures"_s, u"folder"_s, u"tour"_s);
     options.addOption(out);
@@ -405,7 +625,7 @@ int main(int argc, char** argv)
 
     QDir pictures(options.value(out));
     pictures.mkpath(u"."_s);
-    for (const QString& old : pictures.entryList({u"*.png"_s}, QDir::Files))
+    for (const QString& old : pictures.entryList({u"*.png"_s, u"*.pdf"_s}, QDir::Files))
         pictures.remove(old);
 
     QTemporaryDir program;
@@ -413,11 +633,13 @@ int main(int argc, char** argv)
     {
         const TestDatabase database;
         SideConnection(database.Name())
-            .Run(u"UPDATE Sys_Define SET CompName='绿野果品',DepartName='代销一部',Control_Sale='1'"_s);
+            .Run(u"UPDATE Sys_Define SET CompName='绿野果品',DepartName='代销一部',Control_Sale='1';"
+                 "UPDATE DFN_Paper SET PrintStyle='2'"_s);
         QDir(program.path()).mkpath(u"Data"_s);
         WriteFile(program.filePath(u"Config.ini"_s), u"[Define]\nAccNum=1\nPaperSize=9\nSplashTime=800\n"_s);
         WriteFile(program.filePath(u"Data/Data.ini"_s),
                   u"[DBType]\nDrive=MYSQL\n[MYSQL]\nConnStr=%1\n"_s.arg(database.ConnectionText()));
+        QFile::copy(SourcePath(u"packaging/files/Data/Table.ini"_s), program.filePath(u"Data/Table.ini"_s));
         SetProgramDirectory(program.path());
         RegisterWindows();
 
@@ -428,6 +650,12 @@ int main(int argc, char** argv)
         Sell(tour);
         SettleLots(tour);
         SecondLayout(tour);
+        Papers(tour);
+        AddCashier(tour);
+        ChangePassword(tour);
+        ClearTables(tour);
+        Leave(tour);
+        CashierLogsOn(tour);
         Leave(tour);
         Windows().DropAll();
         Settle();

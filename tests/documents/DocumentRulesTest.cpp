@@ -1,0 +1,474 @@
+#include "tests/documents/DocumentTest.h"
+
+#include "core/session/Session.h"
+#include "printing/PrintQueue.h"
+#include "printing/clsPrint.h"
+#include "printing/ctlPreview.h"
+#include "printing/frmPrintEStore.h"
+#include "printing/frmTemp.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QMdiArea>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// The number that follows in a call: 0 the left, 1 the top.
+double Place(const QString& call, int index)
+{
+    return call.section(u' ', index + 1, index + 1).toDouble();
+}
+
+class PrintedForm : public DocumentTest {
+protected:
+    QStringList Draw(const QString& document, bool prePrinted)
+    {
+        if (!FormOf(document))
+            Fill(document);
+        Print(document, prePrinted, !prePrinted);
+        return TakeDrawing();
+    }
+    /// The first call that ends with the text in quotes.
+    static QString CallOf(const QString& text, const QStringList& drawing)
+    {
+        for (const QString& call : drawing) {
+            if (call.endsWith(u'"' + text + u'"'))
+                return call;
+        }
+        return {};
+    }
+    static bool Has(const QString& text, const QStringList& drawing)
+    {
+        return !CallOf(text, drawing).isEmpty();
+    }
+    void SetStyle(const QString& paper, const QString& style)
+    {
+        Db().Run(u"UPDATE DFN_Paper SET PrintStyle='%1' WHERE PaperID='%2'"_s.arg(style, paper));
+    }
+    /// Where documents would go, a file stands: nothing can be printed.
+    void BlockThePrinter()
+    {
+        ASSERT_TRUE(QDir(PdfFolder()).removeRecursively());
+        QFile file(PdfFolder());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+};
+
+// What prints
+
+TEST_F(PrintedForm, AHiddenControlStaysOffTicketsAdvancesAndSettlements)
+{
+    const QList<std::tuple<QString, QString, QString>> hidden{
+        {u"ticket"_s, u"txtListNo"_s, u"0038215"_s},
+        {u"ticket"_s, u"lblPArea"_s, u"海南省三亚市崖州区"_s},
+        {u"advance"_s, u"txtStore"_s, u"一号冷库东区"_s},
+        {u"settlement"_s, u"txtCheckUser"_s, u"管理员"_s},
+        {u"settlement-a"_s, u"txtCheckUser"_s, u"管理员"_s},
+    };
+    for (const auto& [document, control, text] : hidden) {
+        Fill(document);
+        for (const bool prePrinted : {true, false}) {
+            const bool hasBlank = control.startsWith(u"txt") && !(prePrinted && document == u"ticket");
+            const QString printed = hasBlank ? text + u' ' : text;
+            EXPECT_TRUE(Has(printed, Draw(document, prePrinted)))
+                << document.toStdString() << text.toStdString();
+            FormOf(document)->findChild<QWidget*>(control)->hide();
+            EXPECT_FALSE(Has(printed, Draw(document, prePrinted)))
+                << document.toStdString() << text.toStdString();
+            FormOf(document)->findChild<QWidget*>(control)->show();
+        }
+        FormOf(document)->close();
+        Settle();
+        Db().Run(u"DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
+    }
+}
+
+TEST_F(PrintedForm, AHiddenLabelAndLineOfATicketStayOff)
+{
+    Fill(u"ticket"_s);
+    const auto linesOf = [](const QStringList& drawing) { return drawing.filter(u"line "_s).size(); };
+    const auto before = linesOf(Draw(u"ticket"_s, false));
+    FormOf(u"ticket"_s)->findChild<QWidget*>(u"Tline_3"_s)->hide();
+    EXPECT_EQ(linesOf(Draw(u"ticket"_s, false)), before - 1);
+}
+
+TEST_F(PrintedForm, SlipsPrintEveryTextBoxVisibleOrNot)
+{
+    for (const auto& [document, control, text] : QList<std::tuple<QString, QString, QString>>{
+             {u"lot-slip"_s, u"txtMemo"_s, u"第三车，外箱略潮，先卖；司机电话留在磅单背面"_s},
+             {u"stock-change"_s, u"txtMemo"_s, u"压坏，已当面点清"_s}}) {
+        for (const bool prePrinted : {true, false}) {
+            Fill(document);
+            FormOf(document)->findChild<QWidget*>(control)->hide();
+            EXPECT_TRUE(Has(prePrinted ? text : text + u' ', Draw(document, prePrinted)));
+        }
+    }
+}
+
+TEST_F(PrintedForm, TheMoneyPaidNeverReachesATicket)
+{
+    Fill(u"ticket"_s);
+    Find(u"frmSale"_s, u"txtRPrice"_s)->setText(u"90000"_s);
+    for (const bool prePrinted : {true, false}) {
+        const QStringList drawing = Draw(u"ticket"_s, prePrinted);
+        EXPECT_FALSE(drawing.isEmpty());
+        EXPECT_TRUE(drawing.filter(u"90000"_s).isEmpty()) << prePrinted;
+    }
+}
+
+TEST_F(PrintedForm, ButtonsAndDisplaysOfTheTillStayOffTheTicket)
+{
+    Fill(u"ticket"_s);
+    const QStringList drawing = Draw(u"ticket"_s, false);
+    for (const QString& text : {u"保存"_s, u"关闭"_s, u"本批收款"_s, u"找零"_s, u"付款"_s})
+        EXPECT_FALSE(Has(text, drawing)) << text.toStdString();
+    for (const QString& text : {u"编号"_s, u"收银员"_s})
+        EXPECT_TRUE(Has(text, drawing)) << text.toStdString();
+}
+
+TEST_F(PrintedForm, ThePaymentPrintsOnStationeryButNotOnAFramedTicket)
+{
+    Fill(u"ticket"_s);
+    const QString call = CallOf(u"现金"_s, Draw(u"ticket"_s, true));
+    const QWidget* combo = FormOf(u"ticket"_s)->findChild<QComboBox*>(u"cmbSaleType"_s);
+    EXPECT_EQ(Place(call, 0), combo->x() * 15);
+    EXPECT_NEAR(Place(call, 1), combo->y() * 15 * 1.33 + 120, 0.06);
+    EXPECT_FALSE(Has(u"现金"_s, Draw(u"ticket"_s, false)));
+}
+
+TEST_F(PrintedForm, OnlyTheLinesOfThePaperAreRuled)
+{
+    const QList<std::pair<QString, QString>> names{{u"ticket"_s, u"Tline"_s},
+                                                   {u"advance"_s, u"Tline"_s},
+                                                   {u"settlement"_s, u"TLine"_s},
+                                                   {u"settlement-a"_s, u"Tline"_s}};
+    for (const auto& [document, name] : names) {
+        Fill(document);
+        int lines = 0;
+        const auto frames = FormOf(document)->findChildren<QFrame*>();
+        for (const QFrame* frame : frames)
+            lines += frame->objectName().startsWith(name + u'_') ? 1 : 0;
+        EXPECT_GT(lines, 5);
+        EXPECT_EQ(Draw(document, false).filter(u"line "_s).size(), lines) << document.toStdString();
+        EXPECT_EQ(Draw(document, true).filter(u"line "_s).size(), 0) << document.toStdString();
+        // The other spelling is another name.
+        FormOf(document)
+            ->findChild<QFrame*>(name + u"_1"_s)
+            ->setObjectName(name == u"TLine" ? u"Tline_1"_s : u"TLine_1"_s);
+        EXPECT_EQ(Draw(document, false).filter(u"line "_s).size(), lines - 1) << document.toStdString();
+        FormOf(document)->close();
+        Settle();
+        Db().Run(u"DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
+    }
+}
+
+// Where it prints
+
+TEST_F(PrintedForm, NegativeOffsetsShiftThePrintUpAndLeft)
+{
+    for (const QString& document : DocumentNames()) {
+        SetOffsets(document, u"0"_s, u"0"_s);
+        const QStringList before = Draw(document, true);
+        SetOffsets(document, u"-0.4"_s, u"-0.2"_s);
+        const QStringList after = Draw(document, true);
+        ASSERT_EQ(before.size(), after.size());
+        int texts = 0;
+        for (int i = 0; i < before.size(); ++i) {
+            if (!before[i].startsWith(u"text "))
+                continue;
+            ++texts;
+            EXPECT_NEAR(Place(after[i], 0), Place(before[i], 0) - 0.4 * 567, 0.11);
+            EXPECT_NEAR(Place(after[i], 1), Place(before[i], 1) - 0.2 * 567, 0.11);
+        }
+        EXPECT_GT(texts, 8) << document.toStdString();
+        if (QWidget* form = FormOf(document))
+            form->close();
+        Settle();
+        Db().Run(u"DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
+    }
+}
+
+TEST_F(PrintedForm, FramedSlipsAndTicketsTakeNoTopOffset)
+{
+    for (const QString& document : {u"lot-slip"_s, u"stock-change"_s, u"ticket"_s}) {
+        SetOffsets(document, u"0"_s, u"0"_s);
+        const QStringList before = Draw(document, false);
+        SetOffsets(document, u"0"_s, u"3"_s);
+        EXPECT_EQ(Draw(document, false), before) << document.toStdString();
+    }
+}
+
+TEST_F(PrintedForm, TheUserStandsLowerOnTheStationeryOfASlip)
+{
+    for (const QString& document : {u"lot-slip"_s, u"stock-change"_s}) {
+        Fill(document);
+        const double top = FormOf(document)->findChild<QWidget*>(u"txtUserID"_s)->y() * 15 + 120;
+        EXPECT_NEAR(Place(CallOf(u"01"_s, Draw(document, true)), 1), top + 1247.4, 0.06);
+        EXPECT_NEAR(Place(CallOf(u"01 "_s, Draw(document, false)), 1), top, 0.06);
+    }
+}
+
+TEST_F(PrintedForm, TheDocumentsUnloadTheirOwnFormsAndLeaveTheOthers)
+{
+    Draw(u"lot-slip"_s, true);
+    Draw(u"stock-change"_s, false);
+    EXPECT_EQ(frmTemp::Loaded(), nullptr);
+    EXPECT_EQ(frmPrintEStore::Loaded(), nullptr);
+    Draw(u"ticket"_s, true);
+    EXPECT_NE(Windows().Find(u"frmSale"_s), nullptr);
+    EXPECT_EQ(TextOf(u"frmSale"_s, u"txtListNo"_s), u"0038215"_s);
+}
+
+TEST_F(PrintedForm, EachDocumentFitsAnA5SheetLyingWithRoomForThePrintersEdges)
+{
+    constexpr double Edge = 240; // 4.2 mm: what office printers cannot reach
+    for (const QString& document : DocumentNames()) {
+        Fill(document);
+        Session::PaperSizeCode = 11;
+        const QStringList drawing = Draw(document, false);
+        for (const QString& call : drawing.filter(u"line "_s)) {
+            EXPECT_GE(Place(call, 0), Edge) << call.toStdString();
+            EXPECT_LE(Place(call, 2), 11907 - Edge) << call.toStdString();
+            EXPECT_LE(Place(call, 3), 8392 - Edge) << call.toStdString();
+        }
+        for (const QString& call : drawing.filter(u"text "_s)) {
+            EXPECT_GE(Place(call, 1), Edge - 100)
+                << call.toStdString(); // the ink begins below the line's top
+            EXPECT_LE(Place(call, 1), 8392 - Edge - 350) << call.toStdString();
+        }
+        if (QWidget* form = FormOf(document))
+            form->close();
+        Settle();
+        Db().Run(u"DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
+    }
+}
+
+// The preview
+
+TEST_F(PrintedForm, NeitherStyleGoesToThePreviewWhichOpensByItself)
+{
+    Fill(u"ticket"_s);
+    Documents();
+    ASSERT_NE(Windows().Find(u"frmPrint"_s), nullptr);
+    EXPECT_FALSE(Windows().Find(u"frmPrint"_s)->Widget()->isVisible());
+    Print(u"ticket"_s, false, false);
+    EXPECT_TRUE(Printer().isVisible());
+    EXPECT_EQ(Printer().windowTitle(), u"打印预览"_s);
+    const QStringList preview = TakeDrawing();
+    EXPECT_EQ(preview.value(0), u"start preview 1 11907 16832"_s);
+    EXPECT_EQ(preview.mid(1), Draw(u"ticket"_s, false).mid(1));
+    EXPECT_EQ(PdfFiles().size(), 1); // the one that was printed
+
+    const QImage page = Printer().PagePreview().Picture();
+    const auto inkOf = [&page](int row) {
+        int ink = 0;
+        for (int x = 0; x < page.width(); ++x)
+            ink += page.pixelColor(x, row).lightness() < 128 ? 1 : 0;
+        return ink;
+    };
+    EXPECT_GT(std::max(inkOf(148), inkOf(149)), 700); // the rule at the table's top
+}
+
+TEST_F(PrintedForm, ThePreviewHasThePaperOfTheSettings)
+{
+    Fill(u"ticket"_s);
+    const auto pageFor = [this](int code) {
+        Session::PaperSizeCode = static_cast<std::int16_t>(code);
+        Print(u"ticket"_s, false, false);
+        return TakeDrawing().value(0);
+    };
+    EXPECT_EQ(pageFor(9), u"start preview 1 11907 16832"_s);
+    EXPECT_EQ(pageFor(11), u"start preview 1 11907 8391.6"_s); // turned, or the ticket would not fit
+    EXPECT_EQ(pageFor(0), u"start preview 1 11907 16839.9"_s); // the printer's own
+}
+
+TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
+{
+    auto* frame = Open(u"frmMain"_s);
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, false, false);
+    const auto* area = frame->findChild<QMdiArea*>();
+    ASSERT_NE(area, nullptr);
+    EXPECT_TRUE(area->isAncestorOf(&Printer()));
+
+    for (const QString& key : {u"mnuSetup"_s, u"mnuPrint"_s}) {
+        EXPECT_FALSE(Printer().findChild<QAction*>(key)->isEnabled());
+        Printer().findChild<QAction*>(key)->trigger();
+    }
+    Settle();
+    EXPECT_TRUE(Printer().isVisible());
+    EXPECT_EQ(PdfFiles().size(), 0);
+    const auto* zoom = Printer().findChild<QComboBox*>(u"cmbmnuZoom"_s);
+    QStringList zooms;
+    for (int i = 0; i < zoom->count(); ++i)
+        zooms << zoom->itemText(i);
+    EXPECT_EQ(zooms, (QStringList{u"0.25"_s, u"0.5"_s, u"1"_s, u"2"_s, u"3"_s}));
+
+    Printer().findChild<QAction*>(u"mnuExit"_s)->trigger();
+    Settle();
+    EXPECT_EQ(Windows().Find(u"frmPrint"_s), nullptr);
+    Print(u"ticket"_s, false, false); // a new one opens
+    EXPECT_TRUE(Printer().isVisible());
+}
+
+TEST_F(PrintedForm, EscapeLeavesThePreview)
+{
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, false, false);
+    Printer().activateWindow();
+    Printer().setFocus();
+    Settle();
+    EXPECT_EQ(FocusName(), u"PagePreview"_s);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(Windows().Find(u"frmPrint"_s), nullptr);
+}
+
+// With the saves
+
+TEST_F(PrintedForm, WithStyleZeroATicketIsSavedAndNothingPrinted)
+{
+    SetStyle(u"P03"_s, u"0"_s);
+    Fill(u"ticket"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Count(u"Sal_List"_s), 1);
+    EXPECT_EQ(PdfFiles(), QStringList());
+}
+
+TEST_F(PrintedForm, ASavedTicketIsPrintedInItsStyle)
+{
+    for (const QString& style : {u"1"_s, u"2"_s}) {
+        SetStyle(u"P03"_s, style);
+        Fill(u"ticket"_s);
+        dynamic_cast<frmPrint&>(Documents());
+        Press(Qt::Key_S, Qt::AltModifier);
+        Windows().Find(u"frmSale"_s)->Widget()->close();
+        Settle();
+    }
+    EXPECT_EQ(Count(u"Sal_List"_s), 2);
+    EXPECT_EQ(PdfFiles().size(), 2);
+    EXPECT_EQ(Count(u"ErrInfo"_s), 0);
+}
+
+TEST_F(PrintedForm, ASettlementIsPrintedWhileItsFieldsAreFilled)
+{
+    SetStyle(u"P05"_s, u"2"_s);
+    Fill(u"settlement"_s);
+    DrawingLog log;
+    Documents();
+    Printer().Record(&log);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Count(u"CheckOut"_s), 1);
+    EXPECT_EQ(PdfFiles().size(), 1);
+    EXPECT_TRUE(Has(u"(柒万伍仟壹佰柒拾伍元壹角)"_s, log.TakeLines()));
+}
+
+// When printing fails
+
+TEST_F(PrintedForm, AFailedPrintLeavesARowAndNoWord)
+{
+    BlockThePrinter();
+    const QList<std::pair<QString, QString>> labels{
+        {u"lot-slip"_s, u"打印客户信息"_s},   {u"stock-change"_s, u"打印客户信息"_s},
+        {u"ticket"_s, u"打印收银清单"_s},     {u"advance"_s, u"打印预支款清单"_s},
+        {u"settlement"_s, u"打印结算清单"_s}, {u"settlement-a"_s, u"打印结算清单"_s},
+    };
+    for (const auto& [document, label] : labels) {
+        Fill(document);
+        PrintFailing(document);
+        const auto rows = Db().Rows(u"SELECT ErrSource,ErrUserName FROM ErrInfo"_s);
+        ASSERT_EQ(rows.size(), 1U) << document.toStdString();
+        EXPECT_EQ(rows[0], (QStringList{label, u"管理员"_s}));
+        Db().Run(u"DELETE FROM ErrInfo; DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
+        if (QWidget* form = FormOf(document))
+            form->close();
+        Settle();
+    }
+    EXPECT_EQ(frmTemp::Loaded(), nullptr);
+    EXPECT_EQ(frmPrintEStore::Loaded(), nullptr);
+}
+
+TEST_F(PrintedForm, AFailedPrintNeitherUndoesNorRepeatsTheSave)
+{
+    SetStyle(u"P03"_s, u"2"_s);
+    Fill(u"ticket"_s);
+    BlockThePrinter();
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Count(u"Sal_List"_s), 1);
+    EXPECT_EQ(Value(u"SELECT Num_Sal+0 FROM PRD_List"_s), u"11610.000000"_s);
+    EXPECT_EQ(Value(u"SELECT CurrNumber FROM Count_Bill WHERE TID='01'"_s), u"1"_s);
+    EXPECT_EQ(TextOf(u"frmSale"_s, u"txtNum"_s), QString()); // cleared for the next ticket
+    EXPECT_EQ(Count(u"ErrInfo"_s), 1);
+
+    QFile::remove(PdfFolder());
+    QDir().mkpath(PdfFolder()); // the printer is back, and prints the next one only
+    Windows().Find(u"frmSale"_s)->Widget()->close();
+    Settle();
+    Fill(u"ticket"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Count(u"Sal_List"_s), 2);
+    EXPECT_EQ(PdfFiles().size(), 1);
+}
+
+TEST_F(PrintedForm, AFailedLookupOfTheOffsetsIsARowToo)
+{
+    Fill(u"ticket"_s);
+    Db().Run(u"RENAME TABLE DFN_Paper TO DFN_Paper_Away"_s);
+    PrintFailing(u"ticket"_s);
+    Db().Run(u"RENAME TABLE DFN_Paper_Away TO DFN_Paper"_s);
+    EXPECT_EQ(PdfFiles(), QStringList());
+}
+
+TEST_F(PrintedForm, ADocumentOfAWindowThatIsNotOpenIsARow)
+{
+    PrintFailing(u"ticket"_s);
+    EXPECT_EQ(Value(u"SELECT ErrSource FROM ErrInfo"_s), u"打印收银清单"_s);
+}
+
+TEST_F(PrintedForm, WithoutAConnectionNothingComesOutOfAPrint)
+{
+    Fill(u"ticket"_s);
+    FailStatement(1, Refusal::LostLink);
+    PrintFailing(u"ticket"_s);
+    EXPECT_EQ(Count(u"ErrInfo"_s), 0); // the row needs the connection too
+}
+
+// From the list of lots
+
+TEST_F(PrintedForm, TheToolbarPrintsTheSlipOfTheSelectedLot)
+{
+    SetStyle(u"P01"_s, u"2"_s);
+    auto* frame = Open(u"frmMain"_s);
+    frame->findChild<QAction*>(u"menuPRDList"_s)->trigger();
+    Settle();
+    Documents();
+    DrawingLog log;
+    Printer().Record(&log);
+    frame->findChild<QAction*>(u"mnuPrint"_s)->trigger();
+    Settle();
+    const QStringList drawing = log.TakeLines();
+    EXPECT_TRUE(Has(u"海南崖州果业合作社 "_s, drawing));
+    EXPECT_TRUE(Has(u"12860件 "_s, drawing));
+    EXPECT_EQ(PdfFiles().size(), 1);
+}
+
+TEST_F(PrintedForm, TheToolbarPrintsNoSlipWithoutALotOrWithSlipsOff)
+{
+    auto* frame = Open(u"frmMain"_s);
+    frame->findChild<QAction*>(u"menuPRDList"_s)->trigger();
+    Settle();
+    frame->findChild<QAction*>(u"mnuPrint"_s)->trigger();
+    SetStyle(u"P01"_s, u"2"_s);
+    Db().Run(u"DELETE FROM PRD_List"_s);
+    Windows().Find(u"frmDataList"_s)->RefreshList();
+    frame->findChild<QAction*>(u"mnuPrint"_s)->trigger();
+    Settle();
+    EXPECT_EQ(PdfFiles(), QStringList());
+}
+
+} // namespace
