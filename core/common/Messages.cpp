@@ -53,7 +53,7 @@ private:
         dialog.setFileMode(question.isSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
         dialog.setLabelText(QFileDialog::LookIn, u"位置："_s);
         dialog.setLabelText(QFileDialog::FileName, u"文件名(&N)："_s);
-        dialog.setLabelText(QFileDialog::FileType, u"文件类型(&T)："_s);
+        dialog.setLabelText(QFileDialog::FileType, u"文件类型："_s);
         dialog.setLabelText(QFileDialog::Accept, question.isSave ? u"保存(&S)"_s : u"打开(&O)"_s);
         dialog.setLabelText(QFileDialog::Reject, u"取消(&C)"_s);
         const QStringList parts = question.filter.split(u'|');
