@@ -3,8 +3,10 @@
 #include "core/base/IniFile.h"
 #include "core/base/ProgramFiles.h"
 
+#include <QAction>
 #include <QFileInfo>
 #include <QMdiSubWindow>
+#include <QMenu>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,21 @@ void WorkArea::SetCover(const QPixmap& picture)
     viewport()->update();
 }
 
+namespace {
+
+/// The frame's own close entry, which follows the desktop's key for closing, gets the key the handbook
+/// names on every desktop.
+void CloseByKey(QMdiSubWindow* frame)
+{
+    const auto entries = frame->systemMenu()->actions();
+    for (QAction* entry : entries) {
+        if (entry->shortcuts() == QKeySequence::keyBindings(QKeySequence::Close))
+            entry->setShortcut(QKeySequence(u"Ctrl+F4"_s));
+    }
+}
+
+} // namespace
+
 void WorkArea::Hold(Form* list)
 {
     QWidget* widget = list->Widget();
@@ -29,6 +46,7 @@ void WorkArea::Hold(Form* list)
         frame->setAttribute(Qt::WA_DeleteOnClose);
         // A list may close itself; its frame goes with it.
         connect(widget, &QObject::destroyed, frame, &QMdiSubWindow::close);
+        CloseByKey(frame);
     }
     frame->showMaximized();
     widget->show();

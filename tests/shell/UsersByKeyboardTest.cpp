@@ -143,6 +143,20 @@ TEST_F(UsersByKeyboard, AUserIsOpenedFromTheListChangedAndTheListFollows)
               u"SELECT UserID,UserName,UserPWD,UserIP,bolIP FROM User_List Order By UserID"_s);
 }
 
+TEST_F(UsersByKeyboard, TheListIsClosedByItsKey)
+{
+    LogOn(u"管理员"_s, u"1"_s);
+    for (int i = 0; i < 2; ++i) {
+        Choose(1, u"menuUserList"_s);
+        EXPECT_NE(Windows().Find(u"frmDataList"_s), nullptr);
+        Press(Qt::Key_F4, Qt::ControlModifier);
+        EXPECT_EQ(Windows().Find(u"frmDataList"_s), nullptr);
+        EXPECT_TRUE(Session::WindowSlotFree);
+    }
+    Press(Qt::Key_F4, Qt::ControlModifier); // nothing to close
+    EXPECT_NE(Windows().Find(u"frmMain"_s), nullptr);
+}
+
 TEST_F(UsersByKeyboard, EachWindowIsReachedFromItsMenuEntry)
 {
     LogOn(u"管理员"_s, u"1"_s);

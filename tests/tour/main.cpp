@@ -524,7 +524,7 @@ void ClearTables(Tour& tour)
     tour.WaitForWindow(u"frmDataClear"_s);
     CloseWindow(u"frmDataClear"_s);
     tour.PrintChanges();
-    tour.CheckValue(u"SELECT (SELECT COUNT(*) FROM Sal_List),(SELECT COUNT(*) FROM PRD_List)"_s, u"0 3"_s);
+    tour.CheckValue(u"SELECT (SELECT COUNT(*) FROM Sal_List),(SELECT COUNT(*) FROM PRD_List)"_s, u"0 4"_s);
 }
 
 /// The new cashier logs on, and sees the till and nothing else.
