@@ -27,7 +27,9 @@
 #include "shell/frmChangePWD.h"
 #include "shell/frmDataClear.h"
 #include "shell/frmMain.h"
+#include "shell/frmParameter.h"
 #include "shell/frmScroll.h"
+#include "shell/frmSetFeeLabel.h"
 #include "shell/frmUserList.h"
 #include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
@@ -57,6 +59,8 @@ void RegisterWindows()
     Add<frmChangePWD>(u"frmChangePWD"_s);
     Add<frmDataClear>(u"frmDataClear"_s);
     Add<frmScroll>(u"frmScroll"_s);
+    Add<frmParameter>(u"frmParameter"_s);
+    Add<frmSetFeeLabel>(u"frmSetFeeLabel"_s);
     Add<frmStore>(u"frmStore"_s);
     Add<frmSales>(u"frmSales"_s);
     Add<frmPRDSort>(u"frmPRDSort"_s);

@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+std::optional<QList<PaperSize>> replacement;
+
 QPageSize PaperOf(int paperSizeCode, CupsQueue& queue)
 {
     const QPageSize::PageSizeId known = QPageSize::id(paperSizeCode);
@@ -37,8 +39,15 @@ void MakePdfFolder()
 
 } // namespace
 
+void SetPaperSizes(std::optional<QList<PaperSize>> sizes)
+{
+    replacement = std::move(sizes);
+}
+
 QList<PaperSize> PaperSizes()
 {
+    if (replacement)
+        return *replacement;
     QList<PaperSize> sizes;
     const auto papers = CupsQueue().Papers("media-supported");
     for (const QPageSize& paper : papers) {

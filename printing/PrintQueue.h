@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
 
 class CupsQueue;
 
@@ -20,6 +21,10 @@ struct PaperSize {
 /// The paper sizes of the default print queue that have a number, in the queue's order. Empty without a
 /// queue, and when the print server does not answer.
 QList<PaperSize> PaperSizes();
+
+/// Puts a list in place of the queue's; std::nullopt brings the queue's back. Tests run with a queue and
+/// without.
+void SetPaperSizes(std::optional<QList<PaperSize>> sizes);
 
 /// A sheet of a paper size upright, in millimetres; with a code that the table does not have the queue's
 /// own sheet, A4 where there is none.

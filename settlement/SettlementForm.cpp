@@ -58,43 +58,49 @@ void SettlementForm::Wire(const SettlementControls& controls)
     Chain().Field(m_controls.txtPayUser).AtMost(PersonWidth).OnEnter([this] { SaveSettlement(); });
     OnPress(m_controls.cmdSubmit, [this] { SaveSettlement(); });
     OnPress(m_controls.cmdCancel, [this] { close(); });
-    for (QLabel* caption : m_controls.lblFee)
+    for (QLabel* caption : m_controls.lblFee) {
         caption->installEventFilter(this);
+        caption->setToolTip(u"双击，或在格子里按F2：修改收费名称"_s);
+    }
 }
 
 void SettlementForm::WireFees()
 {
     const SettlementControls& c = m_controls;
-    const auto rate = [this](QLineEdit* box, FieldRule::Action charge) {
-        Chain().Field(box).AtMost(RateWidth).Numeric(u"数字填写错误！"_s).OnChange(std::move(charge));
-    };
-    const auto percent = [this, rate](QLineEdit* box, QLineEdit* fee) {
-        rate(box, [this, box, fee] { ChargeByPercent(box, fee); });
-    };
-    const auto unit = [this, rate](QLineEdit* box, const QString& feeId, QLineEdit* fee) {
-        rate(box, [this, box, feeId, fee] { ChargeByUnit(feeId, box, fee); });
-    };
-    // No limit of characters: grouping lengthens a figure, and a limit would cut it without a word.
-    const auto amount = [this](QLineEdit* box) {
-        Chain().Field(box).Numeric(u"数字填写错误！"_s).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] {
-            RecalculateSettlement();
+    // F2 does what a double click on the caption does, label by label.
+    const auto field = [this](QLineEdit* box, int label) -> FieldRule& {
+        return Chain().Field(box).Numeric(u"数字填写错误！"_s).OnKey(Qt::Key_F2, [this, label] {
+            RenameFee(label);
         });
     };
+    const auto rate = [field](QLineEdit* box, int label, FieldRule::Action charge) {
+        field(box, label).AtMost(RateWidth).OnChange(std::move(charge));
+    };
+    const auto percent = [this, rate](QLineEdit* box, int label, QLineEdit* fee) {
+        rate(box, label, [this, box, fee] { ChargeByPercent(box, fee); });
+    };
+    const auto unit = [this, rate](QLineEdit* box, int label, const QString& feeId, QLineEdit* fee) {
+        rate(box, label, [this, box, feeId, fee] { ChargeByUnit(feeId, box, fee); });
+    };
+    // No limit of characters: grouping lengthens a figure, and a limit would cut it without a word.
+    const auto amount = [this, field](QLineEdit* box, int label) {
+        field(box, label).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] { RecalculateSettlement(); });
+    };
 
-    percent(c.txtPer_LManage, c.txtLManagePrice);
-    amount(c.txtLManagePrice);
-    percent(c.txtPer_LElect, c.txtLElectPrice);
-    amount(c.txtLElectPrice);
-    amount(c.txtLPackPrice);
-    unit(c.txtPer_LUnload, u"F01"_s, c.txtLUnloadPrice);
-    amount(c.txtLUnloadPrice);
-    amount(c.txtLExpendPrice);
-    unit(c.txtPer_LSani, u"F02"_s, c.txtLSanitationPrice);
-    amount(c.txtLSanitationPrice);
-    amount(c.txtLRecoupPrice);
-    amount(c.txtLChillPrice);
-    amount(c.txtLFieldPrice);
-    amount(c.txtLOtherPrice);
+    percent(c.txtPer_LManage, 0, c.txtLManagePrice);
+    amount(c.txtLManagePrice, 0);
+    percent(c.txtPer_LElect, 1, c.txtLElectPrice);
+    amount(c.txtLElectPrice, 1);
+    amount(c.txtLPackPrice, 2);
+    unit(c.txtPer_LUnload, 3, u"F01"_s, c.txtLUnloadPrice);
+    amount(c.txtLUnloadPrice, 3);
+    amount(c.txtLExpendPrice, 4);
+    unit(c.txtPer_LSani, 5, u"F02"_s, c.txtLSanitationPrice);
+    amount(c.txtLSanitationPrice, 5);
+    amount(c.txtLRecoupPrice, 6);
+    amount(c.txtLChillPrice, 7);
+    amount(c.txtLFieldPrice, 8);
+    amount(c.txtLOtherPrice, 9);
 }
 
 void SettlementForm::OnLoad()
@@ -121,12 +127,16 @@ void SettlementForm::ShowFeeCaptions()
 {
     RecordSet captions =
         Gateway().SelectRows(u"DFN_CheckOutLabel"_s, u"LabelID,Caption"_s, u" Order By LabelID"_s);
-    for (; !captions.Eof(); captions.MoveNext()) {
-        bool isNumber = false;
-        const auto index = captions.Text(0).mid(1).toUInt(&isNumber);
-        if (isNumber && index < m_controls.lblFee.size())
-            m_controls.lblFee[index]->setText(captions.Text(1));
-    }
+    for (; !captions.Eof(); captions.MoveNext())
+        ShowFeeCaption(captions.Text(0), captions.Text(1));
+}
+
+void SettlementForm::ShowFeeCaption(const QString& key, const QString& caption)
+{
+    bool isNumber = false;
+    const auto index = key.mid(1).toUInt(&isNumber);
+    if (isNumber && index < m_controls.lblFee.size())
+        m_controls.lblFee[index]->setText(caption);
 }
 
 bool SettlementForm::eventFilter(QObject* watched, QEvent* event)

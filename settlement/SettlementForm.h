@@ -24,6 +24,9 @@ protected:
     bool IsNewStatus() const { return m_bolNewStatus; }
     const QString& LotId() const { return m_lotId; }
 
+    /// Sets the caption of a fee by its label key, "L0".."L9"; any other key has no label.
+    void ShowFeeCaption(const QString& key, const QString& caption);
+
     // Where the layouts differ.
 
     /// The last step of the load before the first bill number.

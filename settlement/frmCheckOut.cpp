@@ -3,6 +3,7 @@
 #include "core/base/Numbers.h"
 #include "core/common/Lookups.h"
 #include "core/gateway/RecordSet.h"
+#include "core/session/Session.h"
 #include "printing/Documents.h"
 #include "settlement/SettlementMath.h"
 #include "ui_frmCheckOut.h"
@@ -16,6 +17,11 @@ frmCheckOut::frmCheckOut(QWidget* owner) : SettlementForm(owner), ui(std::make_u
 }
 
 frmCheckOut::~frmCheckOut() = default;
+
+void frmCheckOut::TakeName(const QString& name)
+{
+    ShowFeeCaption(Session::FeeLabelKey, name);
+}
 
 void frmCheckOut::KeepPrintStyle()
 {

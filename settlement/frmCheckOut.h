@@ -17,6 +17,9 @@ public:
     explicit frmCheckOut(QWidget* owner = nullptr);
     ~frmCheckOut() override;
 
+    /// The new caption of the fee that was renamed (Session::FeeLabelKey).
+    void TakeName(const QString& name) override;
+
 protected:
     void KeepPrintStyle() override;
     QString ExtraLotColumns() const override;

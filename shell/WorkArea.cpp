@@ -67,12 +67,16 @@ void WorkArea::paintEvent(QPaintEvent* event)
     painter.drawPixmap(target, m_cover);
 }
 
+QPixmap LoadPicture(const QString& fileName)
+{
+    const QString path = QFileInfo(fileName).isAbsolute() ? fileName : ProgramPath(fileName);
+    return FileExists(path) ? QPixmap(path) : QPixmap();
+}
+
 QPixmap LoadCoverPicture()
 {
     const QString ini = ProgramPath(u"\\Data\\BCover.ini"_s);
     if (!FileExists(ini) || ReadIniValue(ini, u"Pic"_s, u"PicStatus"_s) != u"1")
         return {};
-    const QString name = ReadIniValue(ini, u"Pic"_s, u"FileName"_s);
-    const QString path = QFileInfo(name).isAbsolute() ? name : ProgramPath(name);
-    return FileExists(path) ? QPixmap(path) : QPixmap();
+    return LoadPicture(ReadIniValue(ini, u"Pic"_s, u"FileName"_s));
 }

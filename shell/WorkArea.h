@@ -25,6 +25,10 @@ private:
     QPixmap m_cover;
 };
 
+/// The picture in a file, which is named in full or from the program directory on; null where there is no
+/// such file or it holds no picture.
+QPixmap LoadPicture(const QString& fileName);
+
 /// The background picture of the installation: `Pic`/`FileName` of \Data\BCover.ini, when `PicStatus` is
 /// "1" and both files exist; otherwise null.
 QPixmap LoadCoverPicture();

@@ -149,6 +149,8 @@ void WriteIniValue(const QString& file, const QString& section, const QString& k
     IniText ini = Load(file).value_or(IniText());
     const Place place = Find(ini, section, key);
     QString line = key + u'=' + value;
+    // A pasted line break would begin a line of its own, a section even.
+    line.replace(u'\r', u' ').replace(u'\n', u' ');
     if (ini.encoding == Encoding::Bytes)
         line = QString::fromLatin1(line.toUtf8());
     if (place.key >= 0) {

@@ -13,6 +13,6 @@ QString ReadIniValue(const QString& file, const QString& section, const QString&
                      const QString& fallback = QString());
 
 /// Writes the value of a key, keeping every other line, its order, the comments and the file's
-/// encoding. File and section are created when missing.
+/// encoding. File and section are created when missing; line breaks in the value become blanks.
 /// @throws RunTimeError when the file cannot be written; the old file then stands untouched.
 void WriteIniValue(const QString& file, const QString& section, const QString& key, const QString& value);

@@ -3,6 +3,9 @@
 #include "core/common/Handlers.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -27,7 +30,47 @@ public:
                QMessageBox::Yes;
     }
 
+    QString ChooseFile(const FileQuestion& question) override
+    {
+        const NestedLoop loop;
+        const QPointer<QWidget> below = QApplication::activeWindow();
+        QFileDialog dialog(below, question.title);
+        Word(dialog, question);
+        const bool isChosen = dialog.exec() == QDialog::Accepted;
+        if (below)
+            below->activateWindow();
+        return isChosen ? dialog.selectedFiles().value(0) : QString();
+    }
+
 private:
+    /// The same words, keys and filters on every desktop, so not the desktop's own dialog.
+    static void Word(QFileDialog& dialog, const FileQuestion& question)
+    {
+        dialog.setObjectName(u"dlgFile"_s);
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+        dialog.setOption(QFileDialog::HideNameFilterDetails);
+        dialog.setAcceptMode(question.isSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+        dialog.setFileMode(question.isSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+        dialog.setLabelText(QFileDialog::LookIn, u"位置："_s);
+        dialog.setLabelText(QFileDialog::FileName, u"文件名(&N)："_s);
+        dialog.setLabelText(QFileDialog::FileType, u"文件类型："_s);
+        dialog.setLabelText(QFileDialog::Accept, question.isSave ? u"保存(&S)"_s : u"打开(&O)"_s);
+        dialog.setLabelText(QFileDialog::Reject, u"取消(&C)"_s);
+        const QStringList parts = question.filter.split(u'|');
+        QStringList filters;
+        for (qsizetype i = 0; i + 1 < parts.size(); i += 2)
+            filters << parts[i] + u" ("_s + parts[i + 1] + u')';
+        dialog.setNameFilters(filters);
+        if (question.isSave)
+            dialog.setDefaultSuffix(parts.value(1).section(u'.', -1));
+        const QFileInfo start(question.start);
+        dialog.setDirectory(start.isDir()                                ? start.absoluteFilePath()
+                            : start.isAbsolute() && start.dir().exists() ? start.absolutePath()
+                                                                         : QDir::homePath());
+        if (!start.isDir() && !start.fileName().isEmpty())
+            dialog.selectFile(start.fileName());
+    }
+
     static int Run(QMessageBox::Icon icon, const QString& title, const QString& text,
                    QMessageBox::StandardButtons buttons)
     {
@@ -75,6 +118,11 @@ void ShowInfo(const QString& text, const QString& title)
 bool AskYesNo(const QString& text, const QString& title)
 {
     return Presenter().Ask(title, text);
+}
+
+QString AskFile(const FileQuestion& question)
+{
+    return Presenter().ChooseFile(question);
 }
 
 void ShowErrorMessage(const QString& description)

@@ -14,6 +14,18 @@ bool AskYesNo(const QString& text, const QString& title = SystemTitle);
 /// An information box with the description of an error, as the driver or the run time words it.
 void ShowErrorMessage(const QString& description);
 
+/// What a file dialog asks for.
+struct FileQuestion {
+    QString title;
+    QString filter;      ///< captions and patterns in turn: "JPEG Images|*.jpg|GIF Images|*.gif"
+    QString start;       ///< the file or folder it starts from; empty: the user's own folder
+    bool isSave = false; ///< a file to be written, with the first pattern's ending where none is typed;
+                         ///< otherwise one that exists
+};
+
+/// A file dialog. The full path that was chosen, empty when none was.
+QString AskFile(const FileQuestion& question);
+
 /// Where boxes go. The program shows message boxes; tests put a recorder with scripted answers here.
 class MessagePresenter {
 public:
@@ -24,6 +36,8 @@ public:
 
     virtual void Inform(const QString& title, const QString& text) = 0;
     virtual bool Ask(const QString& title, const QString& text) = 0;
+    /// Without a presenter of files none is chosen.
+    virtual QString ChooseFile(const FileQuestion& /*question*/) { return {}; }
 };
 
 /// Replaces the presenter; nullptr brings the message boxes back. The caller keeps ownership.

@@ -6,9 +6,9 @@
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
 
+#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -149,7 +149,7 @@ FieldRule& KeyChain::Combo(QComboBox* combo)
     return Append(combo);
 }
 
-FieldRule& KeyChain::Check(QCheckBox* check)
+FieldRule& KeyChain::Check(QAbstractButton* check)
 {
     return Append(check);
 }

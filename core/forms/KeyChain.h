@@ -10,8 +10,8 @@
 #include <optional>
 #include <vector>
 
+class QAbstractButton;
 class QAbstractItemView;
-class QCheckBox;
 class QComboBox;
 class QKeyEvent;
 class QLineEdit;
@@ -96,7 +96,8 @@ public:
     FieldRule& Field(QLineEdit* box);
     /// In a combo box Up and Down choose; Up leaves it from the first entry only.
     FieldRule& Combo(QComboBox* combo);
-    FieldRule& Check(QCheckBox* check);
+    /// A check box or a radio button; Left and Right choose among radio buttons side by side.
+    FieldRule& Check(QAbstractButton* check);
     /// In a list Up and Down choose; Up leaves it from the first row only.
     FieldRule& List(QAbstractItemView* list);
 

@@ -158,6 +158,13 @@ TEST_F(IniFile, LinesThatNobodyCanReadAreKeptByteForByte)
     EXPECT_EQ(Bytes().left(strange.size()), strange);
 }
 
+TEST_F(IniFile, ALineBreakInAValueStartsNoLineOfItsOwn)
+{
+    Put("[Pic]\nFileName=\nPicStatus=0\n");
+    WriteIniValue(Path(), u"Pic"_s, u"FileName"_s, u"a\r\nPicStatus=1\n[X]"_s);
+    EXPECT_EQ(Bytes(), QByteArray("[Pic]\nFileName=a  PicStatus=1 [X]\nPicStatus=0\n"));
+}
+
 TEST_F(IniFile, AFileThatCannotBeWrittenIsToldWithoutQuotes)
 {
     try {

@@ -12,6 +12,7 @@
 #include <QComboBox>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRadioButton>
 #include <QTest>
 #include <QToolTip>
 
@@ -278,6 +279,28 @@ TEST_F(Chain, AComboChoosesWithUpAndDownAndIsLeftUpwardsFromItsFirstEntryOnly)
     Press(Qt::Key_Return);
     EXPECT_EQ(combo->currentIndex(), 1);
     EXPECT_EQ(FocusName(), u"txtB"_s);
+}
+
+TEST_F(Chain, RadioButtonsAreWalkedByEnterAndChosenBySpace)
+{
+    OpenWith([](ProbeForm& form, QLineEdit* a, QLineEdit* /*b*/, QLineEdit* /*c*/) {
+        auto* first = form.Add<QRadioButton>(u"optFirst"_s);
+        auto* second = form.Add<QRadioButton>(u"optSecond"_s);
+        first->setChecked(true);
+        form.Chain().Field(a);
+        form.Chain().Check(first);
+        form.Chain().Check(second);
+    });
+    const auto isSecond = [this] { return Find<QRadioButton>(u"frmProbe"_s, u"optSecond"_s)->isChecked(); };
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(FocusName(), u"optSecond"_s);
+    EXPECT_FALSE(isSecond()) << "walking over it chooses nothing";
+    Press(Qt::Key_Space);
+    EXPECT_TRUE(isSecond());
+    Press(Qt::Key_Up);
+    Press(Qt::Key_Up);
+    EXPECT_EQ(FocusName(), u"txtA"_s);
 }
 
 TEST_F(Chain, ACheckBoxTurnsWithSpaceAndMovesOnWithEnter)

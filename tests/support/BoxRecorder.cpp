@@ -21,11 +21,19 @@ void BoxRecorder::ExpectContaining(const QString& part)
     m_expected.append({SystemTitle, part, false, false, true});
 }
 
+void BoxRecorder::ExpectFile(const QString& filter, const QString& chosen)
+{
+    m_expectedFiles.append({filter, chosen});
+}
+
 void BoxRecorder::Verify()
 {
     for (const Expected& expected : std::as_const(m_expected))
         ADD_FAILURE() << "a box never came: " << qPrintable(expected.text);
     m_expected.clear();
+    for (const ExpectedFile& expected : std::as_const(m_expectedFiles))
+        ADD_FAILURE() << "a file dialog never came: " << qPrintable(expected.filter);
+    m_expectedFiles.clear();
 }
 
 void BoxRecorder::Inform(const QString& title, const QString& text)
@@ -36,6 +44,19 @@ void BoxRecorder::Inform(const QString& title, const QString& text)
 bool BoxRecorder::Ask(const QString& title, const QString& text)
 {
     return Meet(title, text, true);
+}
+
+QString BoxRecorder::ChooseFile(const FileQuestion& question)
+{
+    const NestedLoop nested;
+    m_lastFileQuestion = question;
+    if (m_expectedFiles.isEmpty()) {
+        ADD_FAILURE() << "a file dialog nobody expected: " << qPrintable(question.title);
+        return {};
+    }
+    const ExpectedFile expected = m_expectedFiles.takeFirst();
+    EXPECT_EQ(qPrintable(question.filter), std::string(qPrintable(expected.filter)));
+    return expected.chosen;
 }
 
 bool BoxRecorder::Meet(const QString& title, const QString& text, bool isQuestion)

@@ -18,6 +18,8 @@ public:
     void ExpectQuestion(const QString& text, bool answer, const QString& title = SystemTitle);
     /// The next box is an information box whose text contains this (for driver texts).
     void ExpectContaining(const QString& part);
+    /// A file dialog with this filter, in which this path is chosen; an empty one cancels it.
+    void ExpectFile(const QString& filter, const QString& chosen);
     /// Runs while the next box stands open.
     void WhileOpen(std::function<void()> action) { m_whileOpen = std::move(action); }
 
@@ -28,6 +30,9 @@ public:
 
     void Inform(const QString& title, const QString& text) override;
     bool Ask(const QString& title, const QString& text) override;
+    QString ChooseFile(const FileQuestion& question) override;
+    /// The last file dialog.
+    const FileQuestion& LastFileQuestion() const { return m_lastFileQuestion; }
 
 private:
     struct Expected {
@@ -40,6 +45,12 @@ private:
     bool Meet(const QString& title, const QString& text, bool isQuestion);
 
     QList<Expected> m_expected;
+    struct ExpectedFile {
+        QString filter;
+        QString chosen;
+    };
+    QList<ExpectedFile> m_expectedFiles;
+    FileQuestion m_lastFileQuestion;
     QStringList m_seen;
     std::function<void()> m_whileOpen;
 };
