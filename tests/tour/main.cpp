@@ -499,6 +499,30 @@ void ChangePassword(Tour& tour)
 }
 
 /// Empties two tables, with a picture of the progress while the second goes.
+void Settings(Tour& tour)
+{
+    tour.Step(u"基本设置：截止时间、收银取整"_s);
+    tour.ExpectBox(u"该打印机无有效的打印纸张大小！"_s, u"frmParameter-no-printer"_s);
+    tour.ChooseMenu(7, 1);
+    tour.CheckBoxCame();
+    tour.WaitForWindow(u"frmParameter"_s);
+    tour.Picture(u"frmParameter-printing"_s);
+    Press(Qt::Key_2, Qt::AltModifier);
+    tour.Picture(u"frmParameter-background"_s);
+    Press(Qt::Key_3, Qt::AltModifier);
+    Enter(u"chkControl_Sale"_s, QString());
+    Enter(u"chkVerify"_s, QString());
+    Enter(u"txtDeadline"_s, u"18:30:00"_s);
+    Press(Qt::Key_Space); // chkRound_Sale
+    tour.Picture(u"frmParameter-rules"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    WaitFor([] { return Windows().Find(u"frmParameter"_s) == nullptr; });
+    tour.PrintChanges();
+    tour.CheckValue(u"SELECT Deadline,Control_Sale,(SELECT bolRound FROM DFN_Round WHERE CountID='C01') "
+                    "FROM Sys_Define"_s,
+                    u"18:30:00 1 1"_s);
+}
+
 void ClearTables(Tour& tour)
 {
     tour.Step(u"数据清空：收银清单与调整记录"_s);
@@ -653,6 +677,7 @@ int main(int argc, char** argv)
         Papers(tour);
         AddCashier(tour);
         ChangePassword(tour);
+        Settings(tour);
         ClearTables(tour);
         Leave(tour);
         CashierLogsOn(tour);
