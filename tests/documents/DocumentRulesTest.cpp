@@ -438,6 +438,46 @@ TEST_F(PrintedForm, WithoutAConnectionNothingComesOutOfAPrint)
     EXPECT_EQ(Count(u"ErrInfo"_s), 0); // the row needs the connection too
 }
 
+// What people type and sites set
+
+TEST_F(PrintedForm, OddTextsPlacesAndPapersPrintAllTheSame)
+{
+    Fill(u"ticket"_s);
+    const QStringList texts{QString(), u"  "_s, u"一行\n二行\t\x01\x7f"_s, QString(5000, u'货'),
+                            u"🍎𠮷é'\\\""_s};
+    for (const QString& text : texts) {
+        FormOf(u"ticket"_s)->findChild<QLabel*>(u"lblTotal"_s)->setText(text);
+        Print(u"ticket"_s, true, false);
+        EXPECT_TRUE(TakeDrawing().filter(u"bold"_s).size() > 0);
+    }
+    for (const int code : {-5, 0, 1, 256, 32000}) {
+        Session::PaperSizeCode = static_cast<std::int16_t>(code);
+        Print(u"ticket"_s, false, true);
+    }
+    Session::PaperSizeCode = 9;
+    for (const QString& offset : {u"100"_s, u"-100"_s, u"99999999999999"_s}) {
+        SetOffsets(u"ticket"_s, offset, offset);
+        Print(u"ticket"_s, true, false);
+    }
+    Db().Run(u"DELETE FROM DFN_Paper"_s);
+    Print(u"ticket"_s, false, true); // without a row nothing is shifted
+    EXPECT_EQ(PdfFiles().size(), texts.size() + 5 + 3 + 1);
+}
+
+TEST_F(PrintedForm, AHundredDocumentsInARowOfOneSecondAreAHundredFiles)
+{
+    const auto openFiles = [] {
+        return QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size();
+    };
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, false, true);
+    const auto before = openFiles();
+    for (int i = 1; i < 100; ++i)
+        Print(u"ticket"_s, i % 2 == 0, i % 2 != 0);
+    EXPECT_EQ(PdfFiles().size(), 100);
+    EXPECT_EQ(openFiles(), before);
+}
+
 // From the list of lots
 
 TEST_F(PrintedForm, TheToolbarPrintsTheSlipOfTheSelectedLot)
