@@ -94,6 +94,7 @@ void clsPrint::PrintStartDoc(SystemPrinter& target, double scale)
     RightMargin = 0;
     if (m_log)
         m_log->Note(u"start printer"_s, {scale});
+    target.KillDoc();        // what an earlier document left open when it failed
     target.Print(QString()); // opens the job
 }
 

@@ -27,7 +27,8 @@ public:
     /// and `height` as they stand, in twips.
     void PrintSetPsize(const QString& paper, double width, double height);
 
-    /// Starts a document on the printer. Its job opens at once.
+    /// Starts a document on the printer. Its job opens at once; one that an earlier document left open is
+    /// dropped.
     /// @throws RunTimeError when no job can be opened
     void PrintStartDoc(SystemPrinter& target, double scale);
     /// Starts a document on the preview, blank, at the zoom `scale`.

@@ -144,7 +144,6 @@ void frmPrint::PrintDocument(const DocumentRules& rules, bool prePrinted, bool f
         PrintForm(rules, form, prePrinted, framed);
     } catch (const std::exception& error) {
         // The save behind the document stands and goes on; the row is all that tells of the failure.
-        m_printer.KillDoc();
         LogError(Session::CurrentUserName, QString::fromUtf8(error.what()), rules.errorLabel);
     }
 }

@@ -329,6 +329,18 @@ TEST_F(PrintSurface, ADroppedJobLeavesNothingAndTheNextOneIsWhole)
     EXPECT_EQ(PagesOfThePdf(), 1);
 }
 
+TEST_F(PrintSurface, ADocumentLeftOpenIsDroppedByTheNext)
+{
+    StartOnPaper();
+    page.PrintPrint(u"断在半路"_s);
+    page.NewPage();
+    page.PrintPrint(u"第二页"_s);
+    StartOnPaper();
+    page.PrintPrint(u"好页"_s);
+    page.EndDoc();
+    EXPECT_EQ(PagesOfThePdf(), 1);
+}
+
 TEST_F(PrintSurface, OfTwoPagesThePreviewKeepsTheSecond)
 {
     StartOnPreview();
