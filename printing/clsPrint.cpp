@@ -89,7 +89,9 @@ void clsPrint::PrintStartDoc(SystemPrinter& target, double scale)
 {
     Scale = scale;
     IsPrinter = true;
-    LineGap = 0; // not what an earlier preview left
+    LineGap = 0; // none of what an earlier preview left
+    TopMargin = 0;
+    BottomMargin = 0;
     LeftMargin = 0;
     RightMargin = 0;
     if (m_log)

@@ -121,7 +121,7 @@ TEST_F(PrintSurface, PaperHasNoGapAndNoMarginThePreviewTenAndFifty)
     EXPECT_EQ(page.CurrentY(), 50);
 }
 
-TEST_F(PrintSurface, ThePreviewsGapIsGoneOnTheNextPaper)
+TEST_F(PrintSurface, ThePreviewsGapAndMarginsAreGoneOnTheNextPaper)
 {
     StartOnPreview();
     page.CenterPrn(0);
@@ -130,6 +130,8 @@ TEST_F(PrintSurface, ThePreviewsGapIsGoneOnTheNextPaper)
     page.NewLineBG(0);
     EXPECT_FLOAT_EQ(page.CurrentY(), 1000 + page.TextHeight(u"AA"_s));
     EXPECT_EQ(page.CurrentX(), 0);
+    page.CenterPrn(0);
+    EXPECT_EQ(page.CurrentY(), 0);
 }
 
 TEST_F(PrintSurface, ANewLineIsOneLineLowerAtTheMargin)
