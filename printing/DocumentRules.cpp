@@ -107,6 +107,13 @@ bool IsLine(const QFrame& frame)
            (frame.frameShape() == QFrame::HLine || frame.frameShape() == QFrame::VLine);
 }
 
+/// The size of a font in points; a form's pixel is 15 twips, a point 20.
+float PointsOf(const QFont& font)
+{
+    return static_cast<float>(font.pointSizeF() > 0 ? font.pointSizeF()
+                                                    : font.pixelSize() * TwipsPerPixel / 20.0);
+}
+
 class FormDrawing {
 public:
     FormDrawing(clsPrint& page, const PageRules& rules, double left, double top)
@@ -156,7 +163,7 @@ private:
         control.ensurePolished(); // the font that the style sheet gives it, also on a form never shown
         const QFont& font = control.font();
         m_page.SetFontName(font.family());
-        m_page.SetFontSize(static_cast<float>(font.pointSizeF()));
+        m_page.SetFontSize(PointsOf(font));
         m_page.SetFontBold(font.bold());
         m_page.SetCurrentX(static_cast<float>(X(control.x())));
         m_page.SetCurrentY(static_cast<float>(y));

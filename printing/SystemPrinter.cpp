@@ -28,10 +28,17 @@ struct SystemPrinter::OpenJob {
 SystemPrinter::SystemPrinter() = default;
 SystemPrinter::~SystemPrinter() = default;
 
+void SystemPrinter::SetPaperSize(int code)
+{
+    m_paperCode = code;
+    m_uprightSheet.reset();
+}
+
 QSizeF SystemPrinter::SheetSize() const
 {
-    const QSizeF upright = UprightSheet(m_paperCode) * TwipsPerMillimetre;
-    return m_isLandscape ? upright.transposed() : upright;
+    if (!m_uprightSheet)
+        m_uprightSheet = UprightSheet(m_paperCode) * TwipsPerMillimetre;
+    return m_isLandscape ? m_uprightSheet->transposed() : *m_uprightSheet;
 }
 
 void SystemPrinter::Open()

@@ -19,7 +19,7 @@ public:
 
     /// The number of a paper size in the platform's table, 9 for A4; 0 or one that is not in the table
     /// leaves the queue's own paper.
-    void SetPaperSize(int code) { m_paperCode = code; }
+    void SetPaperSize(int code);
     /// Turns the sheet.
     void SetLandscape(bool on) { m_isLandscape = on; }
     /// Names the document in the queue.
@@ -51,6 +51,7 @@ private:
     std::unique_ptr<OpenJob> m_job;
     QString m_title;
     int m_paperCode = 0;
+    mutable std::optional<QSizeF> m_uprightSheet; ///< asked of the queue once per document at most
     bool m_isLandscape = false;
     bool m_hasPageBreak = false;
 };

@@ -9,7 +9,6 @@
 #include "core/forms/WindowRegistry.h"
 #include "core/session/Session.h"
 #include "printing/DocumentRules.h"
-#include "printing/PrintQueue.h"
 #include "printing/clsPrint.h"
 #include "printing/ctlPreview.h"
 #include "printing/frmPrintEStore.h"
@@ -61,6 +60,7 @@ frmPrint::frmPrint(QWidget* owner)
     ui->PagePreview->SetBackColor(White);
     ui->PagePreview->SetForeColor(0);
     ui->cmbmnuZoom->addItems({u"0.25"_s, u"0.5"_s, u"1"_s, u"2"_s, u"3"_s});
+    ui->cmbmnuZoom->setCurrentText(u"1"_s); // as every preview is
     for (const ToolbarKey& key : ToolbarKeys()) {
         QAction* action = ui->menuBar->addAction(key.caption);
         action->setObjectName(key.key);
@@ -170,11 +170,11 @@ void frmPrint::PrintForm(const DocumentRules& rules, const QWidget& form, bool p
 void frmPrint::ChoosePaper(const QWidget& form)
 {
     const int code = Session::PaperSizeCode;
-    const QSizeF upright = UprightSheet(code) * TwipsPerCentimetre / 10;
-    // The forms are as wide as A4 stands upright and A5 lies, to a pixel.
-    const bool isTurned =
-        upright.width() < (form.width() - 1) * TwipsPerPixel && upright.height() > upright.width();
     m_printer.SetPaperSize(code);
+    m_printer.SetLandscape(false);
+    // The forms are as wide as A4 stands upright and A5 lies, to a pixel.
+    const bool isTurned = m_printer.ScaleWidth() < (form.width() - 1) * TwipsPerPixel &&
+                          m_printer.ScaleHeight() > m_printer.ScaleWidth();
     m_printer.SetLandscape(isTurned);
     const QString name = isTurned         ? QString()
                          : code == A4Code ? u"A4"_s

@@ -98,6 +98,15 @@ TEST_F(PrintedForm, AHiddenLabelAndLineOfATicketStayOff)
     EXPECT_EQ(linesOf(Draw(u"ticket"_s, false)), before - 1);
 }
 
+TEST_F(PrintedForm, AFormThatIsNotOnTheScreenPrintsAllTheSame)
+{
+    Fill(u"ticket"_s);
+    const QStringList drawing = Draw(u"ticket"_s, false);
+    EXPECT_TRUE(Has(u"0038215 "_s, drawing));
+    FormOf(u"ticket"_s)->hide();
+    EXPECT_EQ(Draw(u"ticket"_s, false), drawing);
+}
+
 TEST_F(PrintedForm, SlipsPrintEveryTextBoxVisibleOrNot)
 {
     for (const auto& [document, control, text] : QList<std::tuple<QString, QString, QString>>{
@@ -249,6 +258,15 @@ TEST_F(PrintedForm, EachDocumentFitsAnA5SheetLyingWithRoomForThePrintersEdges)
     }
 }
 
+TEST_F(PrintedForm, AFontMeasuredInPixelsPrintsAsLargeAsOnTheForm)
+{
+    Fill(u"ticket"_s);
+    QFont font = Find(u"frmSale"_s, u"txtListNo"_s)->font();
+    font.setPixelSize(20); // of 15 twips each
+    Find(u"frmSale"_s, u"txtListNo"_s)->setFont(font);
+    EXPECT_TRUE(CallOf(u"0038215 "_s, Draw(u"ticket"_s, false)).contains(u"\" 15 "_s));
+}
+
 // The preview
 
 TEST_F(PrintedForm, NeitherStyleGoesToThePreviewWhichOpensByItself)
@@ -309,6 +327,7 @@ TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
     for (int i = 0; i < zoom->count(); ++i)
         zooms << zoom->itemText(i);
     EXPECT_EQ(zooms, (QStringList{u"0.25"_s, u"0.5"_s, u"1"_s, u"2"_s, u"3"_s}));
+    EXPECT_EQ(zoom->currentText(), u"1"_s); // the size that is seen
 
     Printer().findChild<QAction*>(u"mnuExit"_s)->trigger();
     Settle();

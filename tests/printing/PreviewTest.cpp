@@ -78,9 +78,11 @@ TEST_F(Preview, TheBarsReachAsFarAsThePageAndSixMargins)
     EXPECT_TRUE(Down()->isEnabled());
 
     Down()->setValue(3000);
-    EXPECT_EQ(Canvas()->pos(), QPoint(20, (300 - 3000) / 15));
+    Across()->setValue(1500);
+    EXPECT_EQ(Canvas()->pos(), QPoint((300 - 1500) / 15, (300 - 3000) / 15));
     preview.StartDoc(1, 11907, 16832);
     EXPECT_EQ(Down()->value(), 0);
+    EXPECT_EQ(Across()->value(), 0);
     EXPECT_EQ(Canvas()->pos(), QPoint(20, 20));
 }
 
@@ -91,6 +93,16 @@ TEST_F(Preview, APageThatFitsNeedsNoBars)
     EXPECT_EQ(Down()->maximum(), 0);
     EXPECT_FALSE(Across()->isEnabled());
     EXPECT_FALSE(Down()->isEnabled());
+}
+
+TEST_F(Preview, ABarIsOffOnlyWithRoomForSixMargins)
+{
+    const int across = Cover()->width() * 15;
+    const int down = Cover()->height() * 15;
+    preview.StartDoc(1, across - 600, down - 601);
+    EXPECT_TRUE(Across()->isEnabled());
+    EXPECT_FALSE(Down()->isEnabled());
+    EXPECT_EQ(Across()->maximum(), 0);
 }
 
 TEST_F(Preview, AHugePageKeepsTheBarsWithinSixteenBits)
@@ -112,6 +124,15 @@ TEST_F(Preview, ASmallControlKeepsItsCover)
     preview.resize(10, 20);
     Settle();
     EXPECT_EQ(Cover()->size(), before);
+}
+
+TEST_F(Preview, TheCoverShrinksToAHundredTwipsAcrossAndFourHundredDown)
+{
+    const int bar = Down()->width();
+    preview.resize(bar + 7, bar + 27); // 105 and 405 twips
+    EXPECT_EQ(Cover()->size(), QSize(7, 27));
+    preview.resize(bar + 6, bar + 26); // 90 and 390
+    EXPECT_EQ(Cover()->size(), QSize(7, 27));
 }
 
 TEST_F(Preview, TheKeysScrollIt)
