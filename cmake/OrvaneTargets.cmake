@@ -17,7 +17,7 @@ target_compile_definitions(orvane_flags INTERFACE
 
 if(ORVANE_SANITIZE)
   target_compile_options(orvane_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1 -O0)
   target_link_options(orvane_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
