@@ -4,11 +4,11 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/forms/RecordForms.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "goods/ListTables.h"
-#include "goods/LotStock.h"
 #include "ui_frmDataList.h"
 
 #include <QContextMenuEvent>

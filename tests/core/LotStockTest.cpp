@@ -1,4 +1,4 @@
-#include "goods/LotStock.h"
+#include "core/common/LotStock.h"
 
 #include <gtest/gtest.h>
 
