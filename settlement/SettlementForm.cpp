@@ -6,6 +6,7 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
 #include "core/forms/RecordForms.h"
@@ -30,6 +31,9 @@ namespace {
 constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
 constexpr int PersonWidth = 60;
+
+/// PRD_List.Num among the lot's columns, asked for where the stock line needs it.
+constexpr int DeliveredColumn = 6;
 
 /// A fee as calculated, then as it is shown: each writing runs the field's Change handler.
 void WriteFee(QLineEdit* fee, double amount)
@@ -176,7 +180,8 @@ void SettlementForm::LoadLotForSettlement()
         return;
     }
     const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s, u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + ExtraLotColumns(),
+        u"PRD_List"_s,
+        u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + (HasStockLine() ? u",Num"_s : QString()),
         u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
     if (lot.Eof()) {
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
@@ -205,7 +210,11 @@ void SettlementForm::LoadLotForSettlement()
     WriteText(c.txtLExpendPrice, NumberText(SumField(u"CustDebit"_s, u"DebitAmount"_s, ofLot)));
     // An advance equal to the last lot's changes no text, and the net must still be this lot's.
     RecalculateSettlement();
-    ShowStock(lot, pieces);
+    if (HasStockLine()) {
+        LotStock stock = ReadStockChanges(m_lotId, NullToZero(lot.Fields(DeliveredColumn).Value));
+        stock.sold = pieces;
+        ShowStock(stock);
+    }
 }
 
 void SettlementForm::RecalculateSettlement()
