@@ -169,8 +169,17 @@ void SettlementForm::LoadLotForSettlement()
 {
     if (!m_bolNewStatus)
         return;
+    try {
+        LookUpLot(m_controls.txtPRDNo->text().trimmed());
+    } catch (...) {
+        ForgetLot();
+        throw;
+    }
+}
+
+void SettlementForm::LookUpLot(const QString& number)
+{
     const SettlementControls& c = m_controls;
-    const QString number = c.txtPRDNo->text().trimmed();
     if (number.isEmpty()) {
         Chain().ReturnTo(c.txtPRDNo);
         return;
@@ -208,6 +217,18 @@ void SettlementForm::LoadLotForSettlement()
     ShowStock(lot, pieces);
 }
 
+void SettlementForm::ForgetLot()
+{
+    m_lotId.clear();
+    TakeStore(QString());
+    // What a lot brings to the sheet stands in the locked boxes, the net among them.
+    for (QLineEdit* box : TextBoxes()) {
+        if (box->isReadOnly() && box != m_controls.txtCheckDate && box != m_controls.txtCheckNo)
+            WriteText(box, QString());
+    }
+    m_controls.lblPriceUCase->clear();
+}
+
 void SettlementForm::RecalculateSettlement()
 {
     const SettlementControls& c = m_controls;
@@ -216,11 +237,11 @@ void SettlementForm::RecalculateSettlement()
                            [](const QLineEdit* box) { return TextToDouble(box->text()); });
     const double total = TotalOfDeductions(lines);
     c.txtLTotalPrice->setText(FormatMoney(total));
+    // Until the new net stands there is none: the rounding switch may not be readable.
+    c.txtGTotalPrice->clear();
     double net = NetToOwner(TextToDouble(c.txtAmount->text()), total);
-    if (net <= 0) {
-        c.txtGTotalPrice->clear();
+    if (net <= 0)
         return;
-    }
     if (IsRoundOn(u"C02"_s))
         net = RoundHalfUp(net);
     c.txtGTotalPrice->setText(FormatMoney(net));
