@@ -8,7 +8,6 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/forms/RecordForms.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -156,10 +155,6 @@ void SettlementForm::RenameFee(int index)
 {
     static const QString window = u"frmSetFeeLabel"_s;
     Session::FeeLabelKey = u'L' + QString::number(index);
-    if (!Windows().Knows(window)) {
-        ShowFunctionWindow(window);
-        return;
-    }
     if (Form* form = Windows().Load(window, this))
         form->TakeName(m_controls.lblFee[static_cast<std::size_t>(index)]->text());
     Windows().ShowModal(window, this);
