@@ -1,4 +1,4 @@
-#include "core/common/Bills.h"
+#include "core/common/Credit.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "masterdata/frmCustList.h"
