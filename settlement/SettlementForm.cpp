@@ -9,7 +9,6 @@
 #include "core/common/LotStock.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/forms/RecordForms.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -160,10 +159,6 @@ void SettlementForm::RenameFee(int index)
 {
     static const QString window = u"frmSetFeeLabel"_s;
     Session::FeeLabelKey = u'L' + QString::number(index);
-    if (!Windows().Knows(window)) {
-        ShowFunctionWindow(window);
-        return;
-    }
     if (Form* form = Windows().Load(window, this))
         form->TakeName(m_controls.lblFee[static_cast<std::size_t>(index)]->text());
     Windows().ShowModal(window, this);
@@ -173,8 +168,17 @@ void SettlementForm::LoadLotForSettlement()
 {
     if (!m_bolNewStatus)
         return;
+    try {
+        LookUpLot(m_controls.txtPRDNo->text().trimmed());
+    } catch (...) {
+        ForgetLot();
+        throw;
+    }
+}
+
+void SettlementForm::LookUpLot(const QString& number)
+{
     const SettlementControls& c = m_controls;
-    const QString number = c.txtPRDNo->text().trimmed();
     if (number.isEmpty()) {
         Chain().ReturnTo(c.txtPRDNo);
         return;
@@ -217,6 +221,18 @@ void SettlementForm::LoadLotForSettlement()
     }
 }
 
+void SettlementForm::ForgetLot()
+{
+    m_lotId.clear();
+    TakeStore(QString());
+    // What a lot brings to the sheet stands in the locked boxes, the net among them.
+    for (QLineEdit* box : TextBoxes()) {
+        if (box->isReadOnly() && box != m_controls.txtCheckDate && box != m_controls.txtCheckNo)
+            WriteText(box, QString());
+    }
+    m_controls.lblPriceUCase->clear();
+}
+
 void SettlementForm::RecalculateSettlement()
 {
     const SettlementControls& c = m_controls;
@@ -225,11 +241,11 @@ void SettlementForm::RecalculateSettlement()
                            [](const QLineEdit* box) { return TextToDouble(box->text()); });
     const double total = TotalOfDeductions(lines);
     c.txtLTotalPrice->setText(FormatMoney(total));
+    // Until the new net stands there is none: the rounding switch may not be readable.
+    c.txtGTotalPrice->clear();
     double net = NetToOwner(TextToDouble(c.txtAmount->text()), total);
-    if (net <= 0) {
-        c.txtGTotalPrice->clear();
+    if (net <= 0)
         return;
-    }
     if (IsRoundOn(u"C02"_s))
         net = RoundHalfUp(net);
     c.txtGTotalPrice->setText(FormatMoney(net));

@@ -53,6 +53,10 @@ private:
     void RenameFee(int index);
 
     void LoadLotForSettlement();
+    void LookUpLot(const QString& number);
+    /// A lookup that failed half way leaves no lot in hand and nothing of one on the sheet: the new
+    /// lot's key beside the last one's figures would be saved as it stands.
+    void ForgetLot();
     void RecalculateSettlement();
     void ChargeByPercent(const QLineEdit* rate, QLineEdit* fee);
     void ChargeByUnit(const QString& feeId, const QLineEdit* rate, QLineEdit* fee);

@@ -3,6 +3,7 @@
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Bills.h"
+#include "core/common/Credit.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"

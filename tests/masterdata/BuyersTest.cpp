@@ -1,4 +1,4 @@
-#include "core/common/Bills.h"
+#include "core/common/Credit.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "masterdata/frmCustList.h"
@@ -422,15 +422,19 @@ TEST_F(BuyerWindow, ALostConnectionSavesNothingAndLosesNothingTyped)
     EXPECT_EQ(Shown(u"txtCustName"_s), u"张三"_s);
 }
 
-TEST_F(BuyerWindow, AfterAFailedLookUpTheSaveInsertsInsteadOfUpdatingNothing)
+TEST_F(BuyerWindow, AfterAFailedLookUpTheSaveInsertsTheNameAloneInsteadOfUpdatingNothing)
 {
-    AddBuyer(u"张"_s);
+    AddBuyer(u"张"_s, u"1000"_s, u"1"_s);
+    Db().Run(u"UPDATE Cust_List SET CustAddress='东关',CustTel='138'"_s);
     Type(u"张"_s);
     FailStatement(1, Refusal::MissingTable);
     boxes.ExpectContaining(u"doesn't exist"_s);
     Type(u"三"_s);
+    EXPECT_EQ(Shown(u"txtCustAddress"_s), QString()) << "of the buyer before";
     Submit();
-    EXPECT_EQ(Count(u"Cust_List"_s, u"CustName='张三'"_s), 1);
+    EXPECT_EQ(Db().Rows(u"SELECT CustAddress,CustTel,CreditMoney,bolControl FROM Cust_List WHERE "
+                        "CustName='张三'"_s),
+              (std::vector<QStringList>{{QString(), QString(), u"0.000000"_s, u"0"_s}}));
 }
 
 TEST_F(BuyerWindow, ALimitBelowTheDebtIsAcceptedAndTheNextCreditTicketRefused)

@@ -174,7 +174,7 @@ TEST_P(SettlementSave, ClosesTheLotItsTicketsAndItsAdvancesAndNothingElse)
 TEST_P(SettlementSave, LeavesTheWindowReadyForTheNextLotWithThePayer)
 {
     PrepareFullSettlement();
-    Box(u"txtCustSign"_s)->setText(u"王建国"_s);
+    TypeInto(u"txtCustSign"_s, u"王建国"_s);
     Save();
     for (const QLineEdit* box : Windows().Find(Layout())->Widget()->findChildren<QLineEdit*>()) {
         const QStringList kept{u"txtCheckDate"_s, u"txtPayUser"_s, u"txtCheckNo"_s};
@@ -315,7 +315,7 @@ TEST_P(SettlementSave, AnyFeeStillBlankIsAnErrorWithNothingWritten)
         Press(Qt::Key_Delete);
         TakeStatements();
         boxes.Expect(u"类型不匹配"_s);
-        Save(); // the field with the cursor is not completed by it
+        Click(Find<QLabel>(Layout(), u"cmdSubmit"_s)); // the field with the cursor is not completed by it
         EXPECT_EQ(Text(fee), QString()) << fee.toStdString();
         EXPECT_EQ(FocusName(), fee);
         const QStringList sent = TakeStatements();
