@@ -1,7 +1,7 @@
 #include "core/forms/ListGrid.h"
 
 #include "core/base/Numbers.h"
-#include "core/forms/HoverBox.h"
+#include "core/base/Twips.h"
 #include "core/gateway/DataGateway.h"
 
 #include <QHeaderView>
