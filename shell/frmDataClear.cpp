@@ -7,8 +7,8 @@
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
 #include "core/forms/WindowRegistry.h"
+#include "core/forms/frmScroll.h"
 #include "core/gateway/DataGateway.h"
-#include "shell/frmScroll.h"
 
 #include "ui_frmDataClear.h"
 

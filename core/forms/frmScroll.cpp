@@ -1,4 +1,4 @@
-#include "shell/frmScroll.h"
+#include "core/forms/frmScroll.h"
 
 #include "ui_frmScroll.h"
 
