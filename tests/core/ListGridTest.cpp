@@ -5,6 +5,7 @@
 
 #include <QHeaderView>
 #include <QIdentityProxyModel>
+#include <QImage>
 #include <QMouseEvent>
 #include <QSignalSpy>
 #include <QTest>
@@ -385,6 +386,24 @@ TEST_F(Grid, ASheetIsShownAsAWhole)
     EXPECT_EQ(list->ColumnWidthTwips(1), 1500);
     EXPECT_EQ(list->RowCount(), 1);
     EXPECT_EQ(list->SelectedRow(), -1);
+}
+
+TEST_F(Grid, TheFocusIsAFrameThatNoRowCutsOverAGroundThatStaysWhite)
+{
+    ManyRows(100);
+    Find(u"frmProbe"_s, u"txtElsewhere"_s)->setFocus();
+    const QRect rows = list->viewport()->geometry();
+    list->setFocus();
+    Settle();
+    EXPECT_EQ(list->viewport()->geometry(), rows) << "nothing moves";
+    const QImage picture = list->grab().toImage();
+    const QColor focus(0xe0, 0x7b, 0x00);
+    for (int y = 0; y < picture.height(); ++y) {
+        for (const int x : {0, 1, picture.width() - 2, picture.width() - 1})
+            ASSERT_EQ(picture.pixelColor(x, y), focus) << x << ' ' << y;
+    }
+    const QPoint empty(rows.x() + 300, rows.y() + list->RowRect(0).center().y());
+    EXPECT_EQ(picture.pixelColor(empty), QColor(Qt::white));
 }
 
 TEST_F(Grid, AManyRowedListAsksForWhatIsVisibleOnly)
