@@ -122,7 +122,7 @@ bool frmDataList::eventFilter(QObject* watched, QEvent* event)
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Menu ||
             (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier)) {
-            const QRect row = ui->lvDataList->visualItemRect(ui->lvDataList->currentItem());
+            const QRect row = ui->lvDataList->RowRect(ui->lvDataList->CurrentRow());
             RunHandler([this, row] {
                 ShowPopup(ui->lvDataList->viewport()->mapToGlobal(row.bottomLeft() + QPoint(40, 0)));
             });
@@ -146,11 +146,11 @@ void frmDataList::RefreshList()
     ui->lvDataList->SelectRow(0);
 }
 
-void frmDataList::ShowColumns(const QString& layout, const std::vector<ListColumn>& columns)
+void frmDataList::ShowColumns(const QString& layout, const std::vector<SheetColumn>& columns)
 {
     if (layout == m_layout)
         return;
-    ui->lvDataList->SetColumns(GridColumns(columns));
+    ui->lvDataList->SetColumns(columns);
     m_layout = layout;
 }
 
@@ -161,7 +161,7 @@ void frmDataList::FillRecords(const RecordTable& table)
     for (; !rows.Eof(); rows.MoveNext()) {
         QStringList texts;
         for (int i = 0; i < static_cast<int>(table.columns.size()); ++i) {
-            const bool isFlag = table.columns[static_cast<std::size_t>(i)].kind == ListColumn::Kind::Flag;
+            const bool isFlag = table.columns[static_cast<std::size_t>(i)].kind == SheetColumn::Kind::Flag;
             texts << (isFlag ? CheckMark(rows.Text(i)) : rows.Text(i));
         }
         ui->lvDataList->AddRow(texts);

@@ -1,6 +1,6 @@
 #include "printing/DocumentRules.h"
 
-#include "core/forms/HoverBox.h"
+#include "core/base/Twips.h"
 #include "printing/clsPrint.h"
 
 #include <QComboBox>

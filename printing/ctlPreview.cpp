@@ -1,6 +1,6 @@
 #include "printing/ctlPreview.h"
 
-#include "core/forms/HoverBox.h"
+#include "core/base/Twips.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

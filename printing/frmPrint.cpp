@@ -1,10 +1,10 @@
 #include "printing/frmPrint.h"
 
 #include "core/base/RunTimeError.h"
+#include "core/base/Twips.h"
 #include "core/common/ErrorLog.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
-#include "core/forms/HoverBox.h"
 #include "core/forms/RecordForms.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/session/Session.h"

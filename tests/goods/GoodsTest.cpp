@@ -130,7 +130,7 @@ std::vector<QStringList> GoodsTest::ListRows()
     std::vector<QStringList> rows;
     for (int row = 0; row < List()->RowCount(); ++row) {
         QStringList texts;
-        for (int i = 1; i < List()->columnCount(); ++i)
+        for (int i = 1; i < List()->Content().ColumnCount(); ++i)
             texts << List()->SubItem(row, i);
         rows.push_back(texts);
     }

@@ -6,6 +6,8 @@
 #include "tests/support/WindowTest.h"
 
 #include <QCheckBox>
+#include <QFontMetricsF>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -490,4 +492,15 @@ TEST_F(BuyerWindow, TakesTheSlotAndFreesItOnClosing)
     Press(Qt::Key_C, Qt::AltModifier);
     EXPECT_TRUE(Session::WindowSlotFree);
     EXPECT_EQ(Windows().Find(u"frmCustList"_s), nullptr);
+}
+
+TEST_F(BuyerWindow, TheCaptionsAreAsWideAsEachOther)
+{
+    const auto width = [this](const QString& name) {
+        const auto* caption = Find<QLabel>(u"frmCustList"_s, name);
+        return QFontMetricsF(caption->font()).horizontalAdvance(caption->text());
+    };
+    for (const QString& name : {u"lblCustCharge"_s, u"lblCustAddress"_s, u"lblCustTel"_s, u"lblCustFax"_s,
+                                u"lblCustMobile"_s, u"lblCreditMoney"_s})
+        EXPECT_NEAR(width(name), width(u"lblCustName"_s), 1) << name.toStdString();
 }
