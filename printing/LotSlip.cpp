@@ -14,7 +14,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString LotSlipPaper = u"P01"_s;
-const QString LotSlipKey = u"PRDList"_s;
 
 double StockChange(const QString& lotId, const QString& type)
 {
@@ -48,10 +47,7 @@ void PrintLotSlip(const LotSlip& slip, const QString& printStyle)
         return;
     const auto unload = qScopeGuard([] { frmTemp::Unload(); });
     FillLotSlip(slip);
-    PrintByStyle(printStyle, [](bool prePrinted, bool framed) {
-        Documents().PrintRpt(LotSlipKey);
-        Documents().PrintPRDList(prePrinted, framed);
-    });
+    PrintDocument(Document::PRDList, printStyle, frmTemp::Load());
 }
 
 void ReprintLotSlip(const QString& prdNo)

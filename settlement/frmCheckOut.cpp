@@ -4,7 +4,6 @@
 #include "core/common/Lookups.h"
 #include "core/gateway/RecordSet.h"
 #include "core/session/Session.h"
-#include "printing/Documents.h"
 #include "settlement/SettlementMath.h"
 #include "ui_frmCheckOut.h"
 
@@ -52,9 +51,4 @@ void frmCheckOut::ShowStock(const RecordSet& lot, double pieces)
     ui->txtSNum_4->setText(NumberText(stock.lost));
     ui->txtSNum_5->setText(NumberText(stock.sold));
     ui->txtSNum_6->setText(NumberText(stock.Left()));
-}
-
-void frmCheckOut::Print(bool prePrinted, bool framed)
-{
-    Documents().PrintCheckOut(prePrinted, framed);
 }

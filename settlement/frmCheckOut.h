@@ -27,7 +27,7 @@ protected:
     QString Store() const override { return m_store; }
     void ShowStock(const RecordSet& lot, double pieces) override;
     QString PrintStyle() const override { return m_printStyle; }
-    void Print(bool prePrinted, bool framed) override;
+    Document PrintedAs() const override { return Document::CheckOut; }
 
 private:
     std::unique_ptr<Ui::frmCheckOut> ui;

@@ -10,8 +10,7 @@ namespace {
 /// tests/documents/rewrite-golden writes those files anew; their difference is then to be read.
 struct Style {
     QString name;
-    bool prePrinted;
-    bool framed;
+    PrintMode mode;
 };
 
 struct Offsets {
@@ -19,8 +18,9 @@ struct Offsets {
     QString top;
 };
 
-const QList<Style> Styles{
-    {u"stationery"_s, true, false}, {u"sheet"_s, false, true}, {u"preview"_s, false, false}};
+const QList<Style> Styles{{u"stationery"_s, PrintMode::Stationery},
+                          {u"sheet"_s, PrintMode::Sheet},
+                          {u"preview"_s, PrintMode::Preview}};
 const QList<Offsets> Positions{{u"0"_s, u"0"_s}, {u"0.8"_s, u"1.2"_s}, {u"-0.5"_s, u"-0.3"_s}};
 
 bool IsRewriting()
@@ -53,7 +53,7 @@ TEST_P(GoldenDocument, IsDrawnAsItsGoldenFileSays)
             SetOffsets(document, position.left, position.top);
             if (!FormOf(document))
                 Fill(document);
-            Print(document, style.prePrinted, style.framed);
+            Print(document, style.mode);
             drawing << u"== left %1 cm, top %2 cm"_s.arg(position.left, position.top) << TakeDrawing();
         }
         ExpectGolden(document + u'-' + style.name, drawing);

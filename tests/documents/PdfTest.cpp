@@ -63,13 +63,14 @@ void Keep(const QString& file, const QString& name)
 
 class PdfOf : public DocumentTest, public ::testing::WithParamInterface<QString> {
 protected:
-    void ExpectOnePageWithAllTexts(bool prePrinted)
+    void ExpectOnePageWithAllTexts(PrintMode mode)
     {
         Fill(GetParam());
-        Print(GetParam(), prePrinted, !prePrinted);
+        Print(GetParam(), mode);
         const QStringList files = PdfFiles();
         ASSERT_EQ(files.size(), 1);
-        Keep(files[0], GetParam() + (prePrinted ? u"-stationery.pdf"_s : u"-sheet.pdf"_s));
+        const bool isStationery = mode == PrintMode::Stationery;
+        Keep(files[0], GetParam() + (isStationery ? u"-stationery.pdf"_s : u"-sheet.pdf"_s));
 
         EXPECT_TRUE(OutputOf(u"pdfinfo"_s, {files[0]}).contains(QRegularExpression(u"Pages: +1\n"_s)));
         const QString fonts = OutputOf(u"pdffonts"_s, {files[0]});
@@ -78,7 +79,7 @@ protected:
         EXPECT_FALSE(fonts.contains(u"CJKjp"_s)) << fonts.toStdString();
         const QString page = Chinese(OutputOf(u"pdftotext"_s, {u"-raw"_s, files[0], u"-"_s}));
         const QStringList texts = ChineseTexts(TakeDrawing());
-        EXPECT_GE(texts.size(), prePrinted ? 5 : 15);
+        EXPECT_GE(texts.size(), isStationery ? 5 : 15);
         for (const QString& text : texts)
             EXPECT_TRUE(page.contains(Pattern(text))) << text.toStdString();
     }
@@ -86,12 +87,12 @@ protected:
 
 TEST_P(PdfOf, TheSheetIsOnePageWithEveryTextInSimplifiedGlyphs)
 {
-    ExpectOnePageWithAllTexts(false);
+    ExpectOnePageWithAllTexts(PrintMode::Sheet);
 }
 
 TEST_P(PdfOf, TheStationeryIsOnePageWithEveryTextInSimplifiedGlyphs)
 {
-    ExpectOnePageWithAllTexts(true);
+    ExpectOnePageWithAllTexts(PrintMode::Stationery);
 }
 
 INSTANTIATE_TEST_SUITE_P(Six, PdfOf, ::testing::ValuesIn(DocumentNames()), [](const auto& document) {

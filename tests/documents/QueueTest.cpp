@@ -10,11 +10,11 @@ namespace {
 /// The documents through a real print server, to a printer that keeps what it gets.
 class RealQueue : public DocumentTest {
 protected:
-    void PrintAll(bool prePrinted)
+    void PrintAll(PrintMode mode)
     {
         for (const QString& document : DocumentNames()) {
             Fill(document);
-            Print(document, prePrinted, !prePrinted);
+            Print(document, mode);
             if (QWidget* form = FormOf(document))
                 form->close();
             Settle();
@@ -27,8 +27,8 @@ protected:
 
 TEST_F(RealQueue, EachDocumentArrivesAsOnePageUnderItsName)
 {
-    PrintAll(false);
-    PrintAll(true);
+    PrintAll(PrintMode::Sheet);
+    PrintAll(PrintMode::Stationery);
     const QList<ReceivedDocument> received = queue.Received(12);
     ASSERT_EQ(received.size(), 12);
     const QStringList titles{u"商品登记单"_s,   u"库存变更单"_s, u"收款清单"_s,
@@ -46,7 +46,7 @@ TEST_F(RealQueue, OnA5TheDocumentLiesAndIsOnePage)
 {
     Session::PaperSizeCode = 11;
     Fill(u"settlement"_s);
-    Print(u"settlement"_s, false, true);
+    Print(u"settlement"_s, PrintMode::Sheet);
     const QList<ReceivedDocument> received = queue.Received(1);
     ASSERT_EQ(received.size(), 1);
     EXPECT_EQ(PdfInfo(received[0].file, u"Pages"_s), u"1"_s);
