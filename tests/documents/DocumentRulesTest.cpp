@@ -1,11 +1,11 @@
 #include "tests/documents/DocumentTest.h"
 
 #include "core/session/Session.h"
+#include "goods/frmPrintEStore.h"
+#include "goods/frmTemp.h"
 #include "printing/PrintQueue.h"
 #include "printing/clsPrint.h"
 #include "printing/ctlPreview.h"
-#include "printing/frmPrintEStore.h"
-#include "printing/frmTemp.h"
 
 #include <QAction>
 #include <QComboBox>

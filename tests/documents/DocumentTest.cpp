@@ -2,10 +2,10 @@
 
 #include "app/StartProgram.h"
 #include "core/session/Session.h"
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
+#include "goods/frmPrintEStore.h"
+#include "goods/frmTemp.h"
 #include "printing/PrintQueue.h"
-#include "printing/frmPrintEStore.h"
-#include "printing/frmTemp.h"
 #include "settlement/frmDebit.h"
 
 #include <QDir>

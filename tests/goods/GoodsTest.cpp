@@ -6,7 +6,7 @@
 #include "goods/frmDataList.h"
 #include "goods/frmPRDList.h"
 #include "goods/frmSearchPRD.h"
-#include "printing/frmTemp.h"
+#include "goods/frmTemp.h"
 
 #include <QLabel>
 

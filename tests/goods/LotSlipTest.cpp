@@ -1,5 +1,5 @@
-#include "printing/LotSlip.h"
-#include "printing/frmTemp.h"
+#include "goods/LotSlip.h"
+#include "goods/frmTemp.h"
 #include "tests/goods/GoodsTest.h"
 
 #include <QLabel>

@@ -1,7 +1,7 @@
 #include "core/common/Lookups.h"
 #include "core/session/Session.h"
+#include "goods/LotSlip.h"
 #include "printing/Documents.h"
-#include "printing/LotSlip.h"
 #include "tests/shell/ParameterWindow.h"
 
 #include <QLabel>

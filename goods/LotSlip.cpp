@@ -1,11 +1,11 @@
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Lookups.h"
 #include "core/gateway/DataGateway.h"
+#include "goods/frmTemp.h"
 #include "printing/Documents.h"
-#include "printing/frmTemp.h"
 
 #include <QScopeGuard>
 
