@@ -201,6 +201,12 @@ private:
         return Y(control.y(), m_rules.text) + TextDrop + (isUser ? m_rules.userIdDrop : 0);
     }
 
+    /// The pixels that a control's text has: a heading is as wide as its text, and may leave the sheet.
+    static int RoomFor(const QWidget& control)
+    {
+        return std::min(control.width(), control.parentWidget()->width() - control.x());
+    }
+
     void DrawText(const QWidget& control, const QString& text, double y)
     {
         control.ensurePolished(); // the font that the style sheet gives it, also on a form never shown
@@ -210,7 +216,7 @@ private:
         m_page.SetFontBold(font.bold());
         m_page.SetCurrentX(static_cast<float>(X(control.x())));
         m_page.SetCurrentY(static_cast<float>(y));
-        m_page.PrintPrint(text);
+        m_page.PrintFitted(text, RoomFor(control) * TwipsPerPixel);
     }
 
     void DrawLine(const QFrame& line)

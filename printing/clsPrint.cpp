@@ -15,6 +15,7 @@ const QString CellProbe = u"XX的"_s; // both scripts, so that a cell is high en
 
 constexpr double PreviewLineGap = 10;
 constexpr double PreviewMargin = 50;
+constexpr int NarrowestStretch = 50; // percent; narrower than half, nobody reads it
 
 /// Twips, upright.
 struct PageSize {
@@ -141,6 +142,19 @@ void clsPrint::PrintPrint(const QString& text)
         m_printer.Print(text);
     else
         m_preview->PrintA(text);
+}
+
+void clsPrint::PrintFitted(const QString& text, double width)
+{
+    QString ink = text;
+    while (ink.endsWith(u' '))
+        ink.chop(1);
+    const double natural = TextWidth(ink);
+    const double room = std::max(0.0, width);
+    if (natural > room)
+        Target().SetFontStretch(std::max(NarrowestStretch, static_cast<int>(100 * room / natural)));
+    PrintPrint(text);
+    Target().SetFontStretch(QFont::Unstretched);
 }
 
 void clsPrint::PrintLine(float x1, float y1, float x2, float y2)

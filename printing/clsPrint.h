@@ -40,6 +40,9 @@ public:
     float TextHeight(const QString& text) const;
     /// A text at the pen. Where the pen is afterwards is the target's affair.
     void PrintPrint(const QString& text);
+    /// The same, the letters narrowed as far as `text` is wider than `width` twips, to half of their width
+    /// at most: a text is never cut, and one that is wider still runs over. Blanks at its end may run over.
+    void PrintFitted(const QString& text, double width);
     void PrintLine(float x1, float y1, float x2, float y2);
     void PrintBox(float x1, float y1, float x2, float y2);
     void PrintFilledBox(float x1, float y1, float x2, float y2, ColorValue color);

@@ -15,6 +15,8 @@
 #include <QMdiArea>
 #include <QPushButton>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -254,6 +256,17 @@ TEST_F(PrintedForm, EachDocumentFitsAnA5SheetLyingWithRoomForThePrintersEdges)
         Settle();
         Db().Run(u"DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
     }
+}
+
+TEST_F(PrintedForm, AHeadingWiderThanTheSheetIsNarrowedToTheSheet)
+{
+    const QString company = u"海南崖州热带果业合作社联合社江南果品批发市场南区代销总行第十二经营部"_s;
+    Db().Run(u"UPDATE Sys_Define SET CompName='%1'"_s.arg(company));
+    const QString heading = company + u"商品登记单"_s; // of 24 pixels each
+    const double fitting = std::floor(100.0 * 794 / (24.0 * heading.size()));
+    const QString call = CallOf(heading, Draw(u"lot-slip"_s, PrintMode::Sheet));
+    EXPECT_TRUE(call.contains(u" bold stretch %1 \""_s.arg(fitting))) << call.toStdString();
+    EXPECT_EQ(Place(call, 0), 0);
 }
 
 TEST_F(PrintedForm, AFontMeasuredInPixelsPrintsAsLargeAsOnTheForm)
