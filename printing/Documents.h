@@ -21,8 +21,9 @@ enum class PrintMode {
 };
 
 /// Prints `form` as `document`, in the style that DFN_Paper.PrintStyle tells: "1" on stationery, "2" on a
-/// blank sheet; with any other style nothing prints. The caller has filled the form. Nothing is shown and
-/// nothing is thrown when printing fails: the failure is a row of ErrInfo, and the save that printed goes on.
+/// blank sheet; with any other style nothing prints. The caller has filled the form. Nothing is thrown when
+/// printing fails, and the save that printed goes on: the failure is a row of ErrInfo. A document that
+/// could not be kept as a file either is told in a box when the present handler has ended.
 void PrintDocument(Document document, const QString& printStyle, const QWidget& form);
 
 /// What turns forms into paper.

@@ -51,7 +51,7 @@ public:
     void NewPage();
     void PrintPicture(const QImage& picture, float x, float y, float width, float height);
     /// Closes the printer's job; nothing on the preview.
-    /// @throws RunTimeError when the queue did not take it
+    /// @throws KeptAsFileError, RunTimeError as SystemPrinter::EndDoc
     void EndDoc();
 
     float CurrentX() const;

@@ -3,10 +3,12 @@
 #include "core/common/ErrorLog.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/Messages.h"
 #include "core/forms/HoverBox.h"
 #include "core/forms/RecordForms.h"
 #include "core/session/Session.h"
 #include "printing/DocumentRules.h"
+#include "printing/PrintQueue.h"
 #include "printing/clsPrint.h"
 #include "printing/ctlPreview.h"
 #include "ui_frmPrint.h"
@@ -96,9 +98,16 @@ void frmPrint::Print(Document document, PrintMode mode, const QWidget& form)
     const DocumentRules& rules = RulesOf(document);
     try {
         PrintForm(rules, mode, form);
+    } catch (const KeptAsFileError& error) {
+        LogError(Session::CurrentUserName, error.Description(), rules.errorLabel);
     } catch (const std::exception& error) {
-        // The save behind the document stands and goes on; the row is all that tells of the failure.
-        LogError(Session::CurrentUserName, QString::fromUtf8(error.what()), rules.errorLabel);
+        const QString reason = QString::fromUtf8(error.what());
+        LogError(Session::CurrentUserName, reason, rules.errorLabel);
+        // Somebody waits for this paper, and nobody at a till reads the row.
+        if (mode != PrintMode::Preview)
+            AfterHandler([title = rules.title, reason] {
+                ShowInfo(u"%1没有打印，也没有存成文件！\n%2"_s.arg(title, reason));
+            });
     }
 }
 

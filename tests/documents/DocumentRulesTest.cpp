@@ -53,6 +53,11 @@ protected:
     {
         Db().Run(u"UPDATE DFN_Paper SET PrintStyle='%1' WHERE PaperID='%2'"_s.arg(style, paper));
     }
+    /// The box of a document that is neither on paper nor a file.
+    static QString Lost(const QString& title, const QString& reason)
+    {
+        return u"%1没有打印，也没有存成文件！\n%2"_s.arg(title, reason);
+    }
     /// Where documents would go, a file stands: nothing can be printed.
     void BlockThePrinter()
     {
@@ -400,17 +405,23 @@ TEST_F(PrintedForm, ASettlementIsPrintedWhileItsFieldsAreFilled)
 
 // When printing fails
 
-TEST_F(PrintedForm, AFailedPrintLeavesARowAndNoWord)
+TEST_F(PrintedForm, ALostDocumentLeavesARowAndIsTold)
 {
     BlockThePrinter();
-    const QList<std::pair<QString, QString>> labels{
-        {u"lot-slip"_s, u"打印客户信息"_s},   {u"stock-change"_s, u"打印客户信息"_s},
-        {u"ticket"_s, u"打印收银清单"_s},     {u"advance"_s, u"打印预支款清单"_s},
-        {u"settlement"_s, u"打印结算清单"_s}, {u"settlement-a"_s, u"打印结算清单"_s},
+    const QList<std::tuple<QString, QString, QString>> labels{
+        {u"lot-slip"_s, u"打印客户信息"_s, u"商品登记单"_s},
+        {u"stock-change"_s, u"打印客户信息"_s, u"库存变更单"_s},
+        {u"ticket"_s, u"打印收银清单"_s, u"收款清单"_s},
+        {u"advance"_s, u"打印预支款清单"_s, u"预支款登记单"_s},
+        {u"settlement"_s, u"打印结算清单"_s, u"结算清单"_s},
+        {u"settlement-a"_s, u"打印结算清单"_s, u"结算清单"_s},
     };
-    for (const auto& [document, label] : labels) {
+    for (const auto& [document, label, title] : labels) {
         Fill(document);
+        boxes.Expect(Lost(title, u"无法建立文件夹："_s + PdfFolder()));
         PrintFailing(document);
+        Settle();
+        boxes.Verify();
         const auto rows = Db().Rows(u"SELECT ErrSource,ErrUserName FROM ErrInfo"_s);
         ASSERT_EQ(rows.size(), 1U) << document.toStdString();
         EXPECT_EQ(rows[0], (QStringList{label, u"管理员"_s}));
@@ -426,7 +437,13 @@ TEST_F(PrintedForm, AFailedPrintNeitherUndoesNorRepeatsTheSave)
     SetStyle(u"P03"_s, u"2"_s);
     Fill(u"ticket"_s);
     BlockThePrinter();
+    boxes.Expect(Lost(u"收款清单"_s, u"无法建立文件夹："_s + PdfFolder()));
+    boxes.WhileOpen([this] { // the save is over, its screen cleared
+        EXPECT_EQ(Value(u"SELECT CurrNumber FROM Count_Bill WHERE TID='01'"_s), u"1"_s);
+        EXPECT_EQ(TextOf(u"frmSale"_s, u"txtNum"_s), QString());
+    });
     Press(Qt::Key_S, Qt::AltModifier);
+    boxes.Verify();
     EXPECT_EQ(Count(u"Sal_List"_s), 1);
     EXPECT_EQ(Value(u"SELECT Num_Sal+0 FROM PRD_List"_s), u"11610.000000"_s);
     EXPECT_EQ(Value(u"SELECT CurrNumber FROM Count_Bill WHERE TID='01'"_s), u"1"_s);
@@ -443,11 +460,15 @@ TEST_F(PrintedForm, AFailedPrintNeitherUndoesNorRepeatsTheSave)
     EXPECT_EQ(PdfFiles().size(), 1);
 }
 
-TEST_F(PrintedForm, AFailedLookupOfTheOffsetsIsARowToo)
+TEST_F(PrintedForm, AFailedLookupOfTheOffsetsIsToldToo)
 {
     Fill(u"ticket"_s);
     Db().Run(u"RENAME TABLE DFN_Paper TO DFN_Paper_Away"_s);
+    const QString table = u"%1.DFN_Paper"_s.arg(Value(u"SELECT DATABASE()"_s));
+    boxes.Expect(Lost(u"收款清单"_s, u"Table '%1' doesn't exist"_s.arg(table)));
     PrintFailing(u"ticket"_s);
+    Settle();
+    boxes.Verify();
     Db().Run(u"RENAME TABLE DFN_Paper_Away TO DFN_Paper"_s);
     EXPECT_EQ(PdfFiles(), QStringList());
 }
@@ -456,8 +477,21 @@ TEST_F(PrintedForm, WithoutAConnectionNothingComesOutOfAPrint)
 {
     Fill(u"ticket"_s);
     FailStatement(1, Refusal::LostLink);
+    boxes.ExpectContaining(Lost(u"收款清单"_s, QString()));
     PrintFailing(u"ticket"_s);
+    Settle();
+    boxes.Verify();
     EXPECT_EQ(Count(u"ErrInfo"_s), 0); // the row needs the connection too
+}
+
+TEST_F(PrintedForm, APreviewThatFailsIsNoLostDocument)
+{
+    Fill(u"ticket"_s);
+    FailStatement(1, Refusal::MissingTable);
+    Documents().Print(Document::SaleList, PrintMode::Preview, *FormOf(u"ticket"_s));
+    Settle();
+    EXPECT_EQ(boxes.Seen(), QStringList());
+    EXPECT_FALSE(Printer().isVisible());
 }
 
 // What people type and sites set

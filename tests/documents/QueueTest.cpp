@@ -2,6 +2,9 @@
 #include "tests/support/PrintServer.h"
 
 #include "core/session/Session.h"
+#include "printing/PrintQueue.h"
+
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -74,6 +77,23 @@ TEST_F(RealQueue, AQueueGoneInTheMiddleOfASaveIsARowAndAFileAndTheSaveStands)
     EXPECT_EQ(queue.Received(1).size(), 1);
     EXPECT_EQ(Count(u"Sal_List"_s), 2);
     EXPECT_EQ(Count(u"ErrInfo"_s), 1);
+}
+
+TEST_F(RealQueue, ADocumentThatNeitherQueueNorFolderTakesIsToldAfterTheSave)
+{
+    Db().Run(u"UPDATE DFN_Paper SET PrintStyle='2' WHERE PaperID='P05'"_s);
+    Fill(u"settlement"_s);
+    queue.Run(u"cupsreject"_s, {u"till"_s});
+    ASSERT_TRUE(QDir(PdfFolder()).removeRecursively());
+    WriteProgramFile(u"单据PDF"_s, QString());
+    const QString reason = u"打印队列暂不接收单据，无法建立文件夹："_s + PdfFolder();
+    boxes.Expect(u"结算清单没有打印，也没有存成文件！\n"_s + reason);
+    boxes.WhileOpen([this] { EXPECT_EQ(Value(u"SELECT bolCheckOut FROM PRD_List"_s), u"1"_s); });
+    Press(Qt::Key_S, Qt::AltModifier);
+    boxes.Verify();
+    EXPECT_EQ(Count(u"CheckOut"_s), 1);
+    EXPECT_EQ(Value(u"SELECT ErrDescription FROM ErrInfo"_s), reason);
+    EXPECT_EQ(TextOf(u"frmCheckOut"_s, u"txtPRDNo"_s), QString()); // ready for the next lot
 }
 
 TEST_F(RealQueue, ASwitchedOffQueueNeitherUndoesNorRepeatsASettlement)
