@@ -53,7 +53,6 @@ void clsPrint::NewLineBG(double extra)
 void clsPrint::CenterPrn(double width)
 {
     LeftMargin = width <= 0 ? PreviewMargin : std::max(0.0, (Target().ScaleWidth() - width) / 2);
-    RightMargin = LeftMargin;
     SetCurrentX(static_cast<float>(LeftMargin));
     SetCurrentY(static_cast<float>(TopMargin));
 }
@@ -74,7 +73,6 @@ void clsPrint::SelectTarget(ctlPreview& preview)
     IsPrinter = false;
     CenterPrn(preview.ScaleWidth());
     TopMargin = PreviewMargin;
-    BottomMargin = PreviewMargin;
     CopyPrinterMetrics(preview);
 }
 
@@ -92,9 +90,7 @@ void clsPrint::PrintStartDoc(SystemPrinter& target, double scale)
     IsPrinter = true;
     LineGap = 0; // none of what an earlier preview left
     TopMargin = 0;
-    BottomMargin = 0;
     LeftMargin = 0;
-    RightMargin = 0;
     if (m_log)
         m_log->Note(u"start printer"_s, {scale});
     target.KillDoc();        // what an earlier document left open when it failed

@@ -114,8 +114,6 @@ private:
     double PageWidth = 0;
     double PageHeight = 0;
     double TopMargin = 0;
-    double BottomMargin = 0; ///< read by nothing
     double LeftMargin = 0;
-    double RightMargin = 0; ///< read by nothing
-    double LineGap = 0;     ///< 10 on the preview, 0 on paper
+    double LineGap = 0; ///< 10 on the preview, 0 on paper
 };
