@@ -29,7 +29,8 @@ struct ToolbarKey {
     bool isOffered;
 };
 
-/// Printing is asked for from the main window; the preview's own buttons for it have no action.
+/// Printing is asked for from the main window, and the preview shows a page at its size: of the strip's
+/// entries and boxes only those that do something are seen.
 const QList<ToolbarKey>& ToolbarKeys()
 {
     static const QList<ToolbarKey> keys{
@@ -54,7 +55,7 @@ frmPrint::frmPrint(QWidget* owner)
     for (const ToolbarKey& key : ToolbarKeys()) {
         QAction* action = ui->menuBar->addAction(key.caption);
         action->setObjectName(key.key);
-        action->setEnabled(key.isOffered);
+        action->setVisible(key.isOffered);
         connect(action, &QAction::triggered, this,
                 [this, name = key.key] { RunHandler([this, &name] { PressToolbar(name); }); });
     }

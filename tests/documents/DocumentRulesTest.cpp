@@ -14,6 +14,7 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
+#include <QToolBar>
 
 #include <cmath>
 
@@ -332,7 +333,7 @@ TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
     EXPECT_TRUE(area->isAncestorOf(&Printer()));
 
     for (const QString& key : {u"mnuSetup"_s, u"mnuPrint"_s}) {
-        EXPECT_FALSE(Printer().findChild<QAction*>(key)->isEnabled());
+        EXPECT_FALSE(Printer().findChild<QAction*>(key)->isVisible());
         Printer().findChild<QAction*>(key)->trigger();
     }
     Settle();
@@ -350,6 +351,29 @@ TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
     EXPECT_EQ(Windows().Find(u"frmPrint"_s), nullptr);
     Print(u"ticket"_s, PrintMode::Preview); // a new one opens
     EXPECT_TRUE(Printer().isVisible());
+}
+
+TEST_F(PrintedForm, ThePreviewsStripHasOneGroundAndNothingThatDoesNothing)
+{
+    Open(u"frmMain"_s);
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, PrintMode::Preview);
+    Settle();
+    const auto* strip = Printer().findChild<QToolBar*>(u"menuBar"_s);
+    QStringList seen;
+    for (const QAction* action : strip->actions()) {
+        if (action->isVisible())
+            seen << action->objectName();
+    }
+    EXPECT_EQ(seen, QStringList{u"mnuExit"_s});
+    for (const QString& name : {u"cmbmnuZoom"_s, u"cbmPageRec"_s, u"Command1"_s})
+        EXPECT_FALSE(Printer().findChild<QWidget*>(name)->isVisible()) << name.toStdString();
+
+    const QImage window = Printer().grab().toImage();
+    const int height = strip->height() / 2;
+    for (const int x : {window.width() / 4, window.width() / 2, window.width() - 3})
+        EXPECT_EQ(window.pixel(x, height), window.pixel(window.width() / 3, height)) << x;
+    EXPECT_EQ(strip->geometry().right(), Printer().rect().right());
 }
 
 TEST_F(PrintedForm, EscapeLeavesThePreview)
