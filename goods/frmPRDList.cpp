@@ -11,7 +11,7 @@
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 #include "ui_frmPRDList.h"
 
 using namespace Qt::StringLiterals;

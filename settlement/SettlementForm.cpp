@@ -38,7 +38,7 @@ constexpr int DeliveredColumn = 6;
 void WriteFee(QLineEdit* fee, double amount)
 {
     WriteText(fee, NumberText(amount));
-    WriteText(fee, FormatAmount(TextToDouble(fee->text()), u"1"_s));
+    FormatTextBox(fee, u"1"_s);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/forms/FormWindow.h"
+#include "printing/Documents.h"
 #include "settlement/SettlementControls.h"
 
 struct LotStock;
@@ -42,7 +43,7 @@ protected:
     virtual void ShowStock(const LotStock& /*stock*/) {}
     /// DFN_Paper.PrintStyle of the settlement.
     virtual QString PrintStyle() const = 0;
-    virtual void Print(bool prePrinted, bool framed) = 0;
+    virtual Document PrintedAs() const = 0;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -4,7 +4,6 @@
 #include "core/common/Lookups.h"
 #include "core/common/LotStock.h"
 #include "core/session/Session.h"
-#include "printing/Documents.h"
 #include "ui_frmCheckOut.h"
 
 using namespace Qt::StringLiterals;
@@ -36,9 +35,4 @@ void frmCheckOut::ShowStock(const LotStock& stock)
     ui->txtSNum_4->setText(NumberText(stock.lost));
     ui->txtSNum_5->setText(NumberText(stock.sold));
     ui->txtSNum_6->setText(NumberText(stock.Left()));
-}
-
-void frmCheckOut::Print(bool prePrinted, bool framed)
-{
-    Documents().PrintCheckOut(prePrinted, framed);
 }

@@ -27,7 +27,7 @@ protected:
     bool HasStockLine() const override { return true; }
     void ShowStock(const LotStock& stock) override;
     QString PrintStyle() const override { return m_printStyle; }
-    void Print(bool prePrinted, bool framed) override;
+    Document PrintedAs() const override { return Document::CheckOut; }
 
 private:
     std::unique_ptr<Ui::frmCheckOut> ui;

@@ -1,12 +1,12 @@
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Lookups.h"
 #include "core/common/LotStock.h"
 #include "core/gateway/DataGateway.h"
+#include "goods/frmTemp.h"
 #include "printing/Documents.h"
-#include "printing/frmTemp.h"
 
 #include <QScopeGuard>
 
@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString LotSlipPaper = u"P01"_s;
-const QString LotSlipKey = u"PRDList"_s;
 
 } // namespace
 
@@ -37,10 +36,7 @@ void PrintLotSlip(const LotSlip& slip, const QString& printStyle)
         return;
     const auto unload = qScopeGuard([] { frmTemp::Unload(); });
     FillLotSlip(slip);
-    PrintByStyle(printStyle, [](bool prePrinted, bool framed) {
-        Documents().PrintRpt(LotSlipKey);
-        Documents().PrintPRDList(prePrinted, framed);
-    });
+    PrintDocument(Document::PRDList, printStyle, frmTemp::Load());
 }
 
 void ReprintLotSlip(const QString& prdNo)
