@@ -12,11 +12,14 @@
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
+#include "till/SaleLot.h"
 #include "till/TicketTotals.h"
 
 #include "ui_frmSale.h"
 
 #include <QStyle>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -103,8 +106,6 @@ void frmSale::OnLoad()
     ShowThisBatch(FormatMoney(m_batchTotal));
     TakeNextNumber();
     ShowHeadings();
-    m_ticketMode = TicketMode::New;
-    m_oldTotalAmount = 0;
     m_printStyle = GetPrintStyle(u"P03"_s);
 }
 
@@ -163,23 +164,21 @@ void frmSale::LookupLot()
         Chain().ReturnTo(ui->txtPRDNo);
         return;
     }
-    const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s, u"PRDNo,ID,PRDName,CustName,PArea,Store,PerForegift"_s,
-        u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
-    if (lot.Eof()) {
+    const std::optional<SaleLot> lot = FindSaleLot(number);
+    if (!lot) {
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
         WriteText(ui->txtPRDNo, QString());
         Chain().ReturnTo(ui->txtPRDNo);
         return;
     }
-    WriteText(ui->txtPRDNo, lot.Text(0));
-    m_lotId = lot.Text(1);
-    ui->txtPRDName->setText(lot.Text(2));
-    ui->lblCustName->setText(lot.Text(3));
-    ui->lblPArea->setText(lot.Text(4));
-    m_lotStore = lot.Text(5);
+    WriteText(ui->txtPRDNo, lot->prdNo);
+    m_lotId = lot->id;
+    ui->txtPRDName->setText(lot->prdName);
+    ui->lblCustName->setText(lot->custName);
+    ui->lblPArea->setText(lot->pArea);
+    m_lotStore = lot->store;
     if (ui->txtPerForegift->text().isEmpty())
-        WriteText(ui->txtPerForegift, lot.Text(6));
+        WriteText(ui->txtPerForegift, lot->perForegift);
 }
 
 void frmSale::CheckVerifyCode()

@@ -206,7 +206,10 @@ TEST_F(TicketSave, ADepositBeyondSixteenBitsIsAnErrorThatIsLogged)
 TEST_F(TicketSave, ALotWithoutDepositPassesWithZeroAndMovesNoCrates)
 {
     Db().Run(u"UPDATE PRD_List SET PackNo='K1' WHERE PRDNo='A-001'"_s);
-    Sell({.perForegift = u"0"_s});
+    TypeTicket({.perForegift = u"0"_s});
+    TakeStatements();
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty());
     EXPECT_EQ(Count(u"Sal_List"_s), 1);
     EXPECT_EQ(CratesOut(), u"0"_s);
 }
@@ -223,7 +226,9 @@ TEST_F(TicketSave, ANegativeDepositPassesAndMovesNoCrates)
 {
     TypeTicket({.prdNo = u"B-001"_s});
     Box(u"txtPerForegift"_s)->setText(u"-5"_s);
+    TakeStatements();
     Press(Qt::Key_Return);
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty());
     EXPECT_EQ(TicketRow(FirstNo, u"PerForegift,ForegiftAmount"_s), (QStringList{u"-5"_s, u"-50"_s}));
     EXPECT_EQ(CratesOut(), u"0"_s);
 }
@@ -237,7 +242,9 @@ TEST_F(TicketSave, APriceOfZeroPasses)
 TEST_F(TicketSave, NoPiecesAreAcceptedForTheFeeAloneAndMoveNoCrates)
 {
     TypeTicket({.prdNo = u"B-001"_s, .num = u"0"_s, .suttle = u"3"_s, .upr = u"2"_s});
+    TakeStatements();
     Press(Qt::Key_Return);
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty()) << "no pieces, no question for the crate type";
     EXPECT_EQ(TicketRow(FirstNo, u"Num,Amount,TotalAmount"_s), (QStringList{u"0"_s, u"6"_s, u"6"_s}));
     EXPECT_EQ(NumSal(u"B-001"_s), u"200"_s);
     EXPECT_EQ(CratesOut(), u"0"_s);
