@@ -110,7 +110,7 @@ void frmSale::SaveNewTicket(const Ticket& ticket)
         CloseBatch();
     else
         CarryBatchOn();
-    BumpBillCounter(Session::CurrentUserID, BillSeries::Tickets, FormatDate(Clock::Now().date()));
+    BumpBillCounter(Session::CurrentUserID, BillSeries::Tickets, ticket.saleDate);
     EmptyTicket();
     if (!LeaveWhenOutOfStep())
         ui->txtSalNo->setText(NextBillNo(BillSeries::Tickets));

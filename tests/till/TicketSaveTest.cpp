@@ -448,6 +448,26 @@ TEST_F(TicketSave, OverMidnightTheMainMachineGoesOnAndLosesTheFirstNumberOfTheDa
     EXPECT_TRUE(TillIsOpen());
 }
 
+TEST_F(TicketSave, MidnightWithinASaveMovesTheCounterOfTheTicketsDay)
+{
+    PrinterSpy printer;
+    printer.look = [this] {
+        SetClock(u"2026-03-10 00:00:01"_s);
+        return QString();
+    };
+    SetDocumentPrinter(&printer);
+    Db().Run(u"UPDATE DFN_Paper SET PrintStyle='2' WHERE PaperID='P03'"_s);
+    Press(Qt::Key_C, Qt::AltModifier);
+    OpenTill();
+    TypeTicket();
+    SetClock(u"2026-03-09 23:59:59"_s);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TicketRow(FirstNo, u"SaleDate,SaleTime"_s), (QStringList{u"2026-03-09"_s, u"23:59:59"_s}));
+    EXPECT_EQ(Db().Rows(u"SELECT CurrDate,CurrNumber FROM Count_Bill"_s),
+              (std::vector<QStringList>{{u"2026-03-09"_s, u"1"_s}}));
+    EXPECT_EQ(Text(u"txtSalNo"_s), u"NO.01260310001"_s) << "the new day begins with its first number";
+}
+
 TEST_F(TicketSave, OverMidnightAWorkstationSavesTheTicketAndCloses)
 {
     Session::ClientFlag = u"1"_s;
