@@ -20,6 +20,7 @@
 #include <QStyle>
 
 #include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -164,8 +165,11 @@ void frmSale::LookupLot()
         Chain().ReturnTo(ui->txtPRDNo);
         return;
     }
+    // A failing statement leaves no lot in hand: the number on the screen would be sold off the lot before.
+    const QString lotBefore = std::exchange(m_lotId, QString());
     const std::optional<SaleLot> lot = FindSaleLot(number);
     if (!lot) {
+        m_lotId = lotBefore;
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
         WriteText(ui->txtPRDNo, QString());
         Chain().ReturnTo(ui->txtPRDNo);
