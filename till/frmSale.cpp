@@ -8,6 +8,7 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
+#include "core/forms/WholeText.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -44,8 +45,8 @@ void ShowMoney(QLineEdit* box, double yuan)
 /// A sum with the same sum in capitals; no capitals for nothing.
 void ShowCapitals(QLabel* figure, const QString& caption, QLabel* capitals)
 {
-    figure->setText(caption);
-    capitals->setText(MoneyToCapitals(TextToDouble(caption)));
+    ShowWhole(figure, caption);
+    ShowWhole(capitals, MoneyToCapitals(TextToDouble(caption)));
 }
 
 /// A payment that falls short shows in another colour: its minus alone is easily overlooked.
@@ -92,6 +93,8 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
         .OutsideChain();
     OnPress(ui->cmdSubmit, [this] { SaveTicket(); });
     OnPress(ui->cmdCancel, [this] { close(); });
+    for (QLineEdit* box : TextBoxes())
+        KeepNarrowed(box);
 }
 
 frmSale::~frmSale() = default;
@@ -142,9 +145,10 @@ void frmSale::ShowHeadings()
     ShowCentred(ui->lblReportName, GetDepartName());
     const bool isVerifyOn = IsVerifyOn();
     ui->txtVerifyID->setVisible(isVerifyOn);
-    if (!isVerifyOn) // the number takes the room of the code
-        ui->txtPRDNo->resize(ui->txtVerifyID->geometry().right() + 1 - ui->txtPRDNo->x(),
-                             ui->txtPRDNo->height());
+    if (!isVerifyOn) { // the number stands over the pieces, and takes the room of the code
+        const QRect below = ui->txtNum->geometry();
+        ui->txtPRDNo->setGeometry(below.x(), ui->txtPRDNo->y(), below.width(), below.height());
+    }
 }
 
 void frmSale::TakeName(const QString& name)
@@ -178,8 +182,8 @@ void frmSale::LookupLot()
     WriteText(ui->txtPRDNo, lot->prdNo);
     m_lotId = lot->id;
     ui->txtPRDName->setText(lot->prdName);
-    ui->lblCustName->setText(lot->custName);
-    ui->lblPArea->setText(lot->pArea);
+    ShowNarrowed(ui->lblCustName, lot->custName);
+    ShowNarrowed(ui->lblPArea, lot->pArea);
     m_lotStore = lot->store;
     if (ui->txtPerForegift->text().isEmpty())
         WriteText(ui->txtPerForegift, lot->perForegift);

@@ -63,6 +63,37 @@ protected:
 
 } // namespace
 
+// Whole figures
+
+TEST_F(TillScreen, ALargeTotalShrinksBeforeItsFrontIsCut)
+{
+    TypeTicket();
+    const double large = PointsOf(u"FlblTPrice01"_s);
+    GoTo(u"txtSuttle"_s);
+    Type(u"99999999"_s);
+    GoTo(u"txtUPR"_s);
+    Type(u"9999"_s);
+    EXPECT_EQ(Caption(u"FlblTPrice01"_s), u"¥999,899,990,001.0"_s);
+    EXPECT_GE(RoomLeft(u"FlblTPrice01"_s), 0);
+    EXPECT_GE(RoomLeft(u"FlblUCaseTPrice01"_s), 0);
+    EXPECT_LT(PointsOf(u"FlblTPrice01"_s), large);
+    GoTo(u"txtUPR"_s);
+    Type(u"1"_s);
+    EXPECT_EQ(Caption(u"FlblTPrice01"_s), u"¥99,999,999.0"_s);
+    EXPECT_EQ(PointsOf(u"FlblTPrice01"_s), large);
+}
+
+TEST_F(TillScreen, LastBatchAndChangeOfAnySizeAreWhole)
+{
+    TypeTicket({.suttle = u"99999999"_s, .upr = u"9999"_s, .closesBatch = true});
+    Press(Qt::Key_Return);
+    Enter(u"txtRPrice"_s, u"1"_s);
+    EXPECT_EQ(Caption(u"FlblTPrice02"_s), u"¥999,899,990,001.0"_s);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), u"-¥999,899,990,000.0"_s);
+    for (const QString& display : {u"FlblTPrice02"_s, u"FlblUCaseTPrice02"_s, u"FlblGPrice"_s})
+        EXPECT_GE(RoomLeft(display), 0) << display.toStdString();
+}
+
 // A lookup that fails
 
 TEST_F(TillScreen, AFailedLookupLeavesNoLotInHand)
@@ -81,4 +112,95 @@ TEST_F(TillScreen, AFailedLookupLeavesNoLotInHand)
     EXPECT_EQ(Count(u"Sal_List"_s), 1) << "not a ticket of B-001 off the lot before";
     EXPECT_EQ(NumSal(u"A-001"_s), u"90"_s);
     EXPECT_EQ(NumSal(u"B-001"_s), u"200"_s);
+}
+
+namespace {
+
+class NarrowFields : public TillTest {
+protected:
+    /// The till with the check code on, in front of a lot whose texts are long.
+    void SetUp() override
+    {
+        TillTest::SetUp();
+        Db().Run(uR"(
+            UPDATE Sys_Define SET bolVerify='1';
+            UPDATE PRD_List SET PRDNo='AB12-001',PRDName='红富士一级果大箱',CustName='内蒙古自治区果品合作社',
+              PArea='新疆阿克苏红旗坡农场',VerifyID='258036' WHERE ID='20260309002';
+            INSERT INTO Sales VALUES ('10234','欧阳建国华');
+        )"_s);
+        OpenTill();
+    }
+
+    static bool IsWhole(const QWidget* control, const QString& text, double room)
+    {
+        return QFontMetricsF(control->font()).horizontalAdvance(text) <= room;
+    }
+    /// A box takes up to ten pixels beside its text: frame, padding, cursor.
+    bool IsWholeInBox(const QString& name) { return IsWhole(Box(name), Text(name), Box(name)->width() - 10); }
+};
+
+} // namespace
+
+TEST_F(NarrowFields, NumberCodeSalesmanAndNamesOfFullLengthAreWhole)
+{
+    Press(Qt::Key_Return);
+    Enter(u"txtPRDNo"_s, u"AB12-001"_s);
+    Enter(u"txtVerifyID"_s, u"258036"_s);
+    Enter(u"txtPRDName"_s, QString());
+    GoTo(u"txtSalesID"_s);
+    Type(u"10234"_s);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Text(u"txtSalesName"_s), u"欧阳建国华"_s);
+    for (const QString& box :
+         {u"txtPRDNo"_s, u"txtVerifyID"_s, u"txtPRDName"_s, u"txtSalesID"_s, u"txtSalesName"_s})
+        EXPECT_TRUE(IsWholeInBox(box)) << box.toStdString();
+    for (const QString& name : {u"lblCustName"_s, u"lblPArea"_s}) {
+        const auto* label = Find<QLabel>(u"frmSale"_s, name);
+        EXPECT_TRUE(IsWhole(label, label->text(), label->width())) << name.toStdString();
+    }
+}
+
+TEST_F(NarrowFields, UsualNumbersAndCodesNeedNoNarrowing)
+{
+    Press(Qt::Key_Return);
+    Enter(u"txtPRDNo"_s, u"A-001"_s);
+    Enter(u"txtVerifyID"_s, u"2580"_s);
+    for (const QString& box : {u"txtPRDNo"_s, u"txtVerifyID"_s, u"txtPRDName"_s}) {
+        EXPECT_TRUE(IsWholeInBox(box)) << box.toStdString();
+        EXPECT_EQ(Box(box)->font().stretch() % QFont::Unstretched, 0) << box.toStdString();
+    }
+    EXPECT_TRUE(IsWhole(Box(u"txtVerifyID"_s), Box(u"txtVerifyID"_s)->placeholderText(),
+                        Box(u"txtVerifyID"_s)->width() - 8));
+}
+
+TEST_F(NarrowFields, ANarrowedTextKeepsItsSizeWhichPaperTakesFromIt)
+{
+    const double points = Box(u"txtPRDNo"_s)->font().pointSizeF();
+    Press(Qt::Key_Return);
+    Type(u"AB12-001"_s);
+    EXPECT_LT(Box(u"txtPRDNo"_s)->font().stretch(), QFont::Unstretched);
+    EXPECT_EQ(Box(u"txtPRDNo"_s)->font().pointSizeF(), points);
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Type(u"A-001"_s);
+    EXPECT_EQ(Box(u"txtPRDNo"_s)->font().stretch(), QFont::Unstretched);
+}
+
+TEST_F(NarrowFields, FiguresOfNineDigitsAreWhole)
+{
+    Press(Qt::Key_Return);
+    Enter(u"txtPRDNo"_s, u"A-001"_s);
+    Enter(u"txtVerifyID"_s, u"2580"_s);
+    Enter(u"txtPRDName"_s, QString());
+    for (const auto& [box, figure] :
+         {std::pair{u"txtNum"_s, u"123456789.5"_s}, std::pair{u"txtSuttle"_s, u"123456789.5"_s},
+          std::pair{u"txtUPR"_s, u"1234567.55"_s}, std::pair{u"txtPerPack"_s, u"123456.5"_s},
+          std::pair{u"txtPerForegift"_s, u"123456.5"_s}}) {
+        GoTo(box);
+        Type(figure);
+    }
+    GoTo(u"txtListNo"_s);
+    for (const QString& box :
+         {u"txtNum"_s, u"txtSuttle"_s, u"txtUPR"_s, u"txtAmount"_s, u"txtPerPack"_s, u"txtPackAmount"_s,
+          u"txtPerForegift"_s, u"txtForegiftAmount"_s, u"txtTotalAmount"_s})
+        EXPECT_TRUE(IsWholeInBox(box)) << box.toStdString() << " " << Text(box).toStdString();
 }
