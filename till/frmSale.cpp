@@ -49,12 +49,19 @@ void ShowCapitals(QLabel* figure, const QString& caption, QLabel* capitals)
     ShowWhole(capitals, MoneyToCapitals(TextToDouble(caption)));
 }
 
-/// A payment that falls short shows in another colour: its minus alone is easily overlooked.
-void SetShort(QLabel* change, bool isShort)
+enum class Change { New, Old };
+
+/// The change of a batch. One that falls short shows in another colour: its minus alone is easily
+/// overlooked. That of a batch before is small and dim: nobody must give it again.
+void ShowChangeAs(QLabel* label, const QString& change, Change age)
 {
-    change->setProperty("isShort", isShort);
-    change->style()->unpolish(change);
-    change->style()->polish(change);
+    constexpr double oldSize = 0.5;
+    label->setProperty("isShort", change.startsWith(u'-'));
+    label->setProperty("isOld", age == Change::Old);
+    // The style sheet asks for the properties, and looks again only when told.
+    label->style()->unpolish(label);
+    label->style()->polish(label);
+    ShowWhole(label, change, age == Change::Old ? oldSize : 1);
 }
 
 } // namespace
@@ -235,6 +242,8 @@ void frmSale::ShowThisBatch(const QString& caption)
 void frmSale::ShowLastBatch(const QString& caption)
 {
     ShowCapitals(ui->FlblTPrice02, caption, ui->FlblUCaseTPrice02);
+    // What stands there was counted against the batch before.
+    ShowChangeAs(ui->FlblGPrice, ui->FlblGPrice->text(), Change::Old);
 }
 
 void frmSale::ShowChange()
@@ -244,8 +253,6 @@ void frmSale::ShowChange()
     if (paid.isEmpty()) {
         ui->FlblGPrice->clear();
     } else if (!owed.isEmpty()) {
-        const QString change = FormatMoney(TextToDouble(paid) - TextToDouble(owed));
-        ui->FlblGPrice->setText(change);
-        SetShort(ui->FlblGPrice, change.startsWith(u'-'));
+        ShowChangeAs(ui->FlblGPrice, FormatMoney(TextToDouble(paid) - TextToDouble(owed)), Change::New);
     }
 }

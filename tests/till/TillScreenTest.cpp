@@ -63,6 +63,55 @@ protected:
 
 } // namespace
 
+// The change of the batch before
+
+TEST_F(TillScreen, ChangeIsLargeAndGreenUntilTheNextBatchClosesThenSmallAndDim)
+{
+    SellAndPay(u"10"_s);
+    const QColor green = ColourOf(u"FlblGPrice"_s);
+    const double large = PointsOf(u"FlblGPrice"_s);
+    EXPECT_GT(green.green(), 200);
+    EXPECT_GE(large, 24);
+
+    Sell();
+    EXPECT_EQ(ColourOf(u"FlblGPrice"_s), green) << "the batch is open";
+    EXPECT_EQ(PointsOf(u"FlblGPrice"_s), large);
+
+    Sell({.closesBatch = true});
+    EXPECT_EQ(FocusName(), u"txtRPrice"_s);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), u"¥2.0"_s) << "it stays";
+    EXPECT_LT(ColourOf(u"FlblGPrice"_s).green(), 150);
+    EXPECT_LE(PointsOf(u"FlblGPrice"_s), large / 2);
+
+    Enter(u"txtRPrice"_s, u"100"_s);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), u"¥35.0"_s);
+    EXPECT_EQ(ColourOf(u"FlblGPrice"_s), green);
+    EXPECT_EQ(PointsOf(u"FlblGPrice"_s), large);
+}
+
+TEST_F(TillScreen, AnEmptyPaymentLeavesNoOldChange)
+{
+    SellAndPay(u"10"_s);
+    Sell({.closesBatch = true});
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), QString());
+}
+
+TEST_F(TillScreen, AShortPaymentHasAColourOfItsOwnUntilOneSuffices)
+{
+    SellAndPay(u"10"_s);
+    const QColor green = ColourOf(u"FlblGPrice"_s);
+    GoTo(u"txtRPrice"_s);
+    Enter(u"txtRPrice"_s, u"5"_s);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), u"-¥3.0"_s);
+    EXPECT_NE(ColourOf(u"FlblGPrice"_s), green);
+    EXPECT_GT(ColourOf(u"FlblGPrice"_s).red(), 200);
+    GoTo(u"txtRPrice"_s);
+    Enter(u"txtRPrice"_s, u"8"_s);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), u"¥0.0"_s);
+    EXPECT_EQ(ColourOf(u"FlblGPrice"_s), green);
+}
+
 // Whole figures
 
 TEST_F(TillScreen, ALargeTotalShrinksBeforeItsFrontIsCut)
