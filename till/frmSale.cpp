@@ -18,6 +18,8 @@
 
 #include "ui_frmSale.h"
 
+#include <QKeyEvent>
+#include <QShortcut>
 #include <QStyle>
 
 #include <optional>
@@ -70,10 +72,9 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
 {
     ui->setupUi(this);
     const auto recalc = [this] { RecalcTicket(); };
-    const auto pickVendee = [this] { PickVendee(); };
     const auto putSalesName = [this] { ui->txtSalesName->setText(GetSalesName(ui->txtSalesID->text())); };
 
-    Chain().Field(ui->txtVendee).OnDoubleClick(pickVendee).OnKey(Qt::Key_F2, pickVendee);
+    Chain().Field(ui->txtVendee).OnDoubleClick([this] { PickVendee(); });
     Chain().Field(ui->txtPRDNo).AtMost(LotNumberWidth).MovesOnWhenFilled().OnLeave([this] { LookupLot(); });
     Chain().Field(ui->txtVerifyID).AtMost(CheckCodeWidth).OnLeave([this] { CheckVerifyCode(); });
     Chain().Field(ui->txtPRDName);
@@ -100,6 +101,9 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
         .OutsideChain();
     OnPress(ui->cmdSubmit, [this] { SaveTicket(); });
     OnPress(ui->cmdCancel, [this] { close(); });
+    // The key stands beside the caption of 实收.
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_R), this), &QShortcut::activated, this,
+            [this] { RunHandler([this] { FocusAndSelect(ui->txtRPrice); }); });
     for (QLineEdit* box : TextBoxes())
         KeepNarrowed(box);
 }
@@ -166,6 +170,14 @@ void frmSale::TakeName(const QString& name)
 void frmSale::PickVendee()
 {
     Windows().ShowModal(u"frmGetCustList"_s, this);
+}
+
+void frmSale::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier)
+        RunHandler([this] { PickVendee(); });
+    else
+        FormWindow::keyPressEvent(event);
 }
 
 void frmSale::LookupLot()

@@ -25,6 +25,10 @@ public:
     /// The buyer, from the picker.
     void TakeName(const QString& name) override;
 
+protected:
+    /// The buyer is picked by F2 from anywhere in the window.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     // Entry
     void FillLists();

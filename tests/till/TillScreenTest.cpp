@@ -112,6 +112,67 @@ TEST_F(TillScreen, AShortPaymentHasAColourOfItsOwnUntilOneSuffices)
     EXPECT_EQ(ColourOf(u"FlblGPrice"_s), green);
 }
 
+// Keys
+
+TEST_F(TillScreen, F2PicksTheBuyerFromEveryFieldAndComesBackToIt)
+{
+    Windows().Register(u"frmGetCustList"_s, [](QWidget* owner) { return new Picker(owner, true); });
+    TypeTicket();
+    TakeStatements();
+    for (const QString& field :
+         {u"txtVendee"_s, u"txtPRDNo"_s, u"txtPRDName"_s, u"txtNum"_s, u"txtSuttle"_s, u"txtUPR"_s,
+          u"txtPerPack"_s, u"txtPerForegift"_s, u"txtListNo"_s, u"txtSalesID"_s, u"txtRPrice"_s}) {
+        GoTo(field);
+        Till().TakeName(u"阿芳"_s);
+        Press(Qt::Key_F2);
+        EXPECT_EQ(Text(u"txtVendee"_s), u"鲜多多"_s) << field.toStdString();
+        EXPECT_EQ(FocusName(), field);
+    }
+    GoTo(u"txtSalesID"_s);
+    for (const QString& list : {u"cmbSaleType"_s, u"cmbCheckStatus"_s}) {
+        Press(Qt::Key_Return);
+        Till().TakeName(u"阿芳"_s);
+        Press(Qt::Key_F2);
+        EXPECT_EQ(Text(u"txtVendee"_s), u"鲜多多"_s) << list.toStdString();
+        EXPECT_EQ(FocusName(), list);
+        EXPECT_EQ(List(list)->currentIndex(), 0);
+    }
+    EXPECT_EQ(Text(u"txtNum"_s), u"10"_s);
+    ExpectNothingWritten();
+}
+
+TEST_F(TillScreen, APickerThatIsGivenUpLeavesTheBuyer)
+{
+    Windows().Register(u"frmGetCustList"_s, [](QWidget* owner) { return new Picker(owner, false); });
+    Till().TakeName(u"阿芳"_s);
+    GoTo(u"txtUPR"_s);
+    Press(Qt::Key_F2);
+    EXPECT_EQ(Text(u"txtVendee"_s), u"阿芳"_s);
+    EXPECT_EQ(FocusName(), u"txtUPR"_s);
+}
+
+TEST_F(TillScreen, AKeyBringsTheCursorToThePaymentAndStandsBesideItsCaption)
+{
+    EXPECT_EQ(Caption(u"FlblPaidKey"_s), u"Alt+R"_s);
+    EXPECT_EQ(Caption(u"FlblPaidCaption"_s), u"实收"_s);
+    SellAndPay(u"10"_s);
+    EXPECT_EQ(FocusName(), u"txtVendee"_s);
+    Press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"txtRPrice"_s);
+    EXPECT_EQ(Box(u"txtRPrice"_s)->selectedText(), u"10"_s);
+    Enter(u"txtRPrice"_s, u"20"_s);
+    EXPECT_EQ(Caption(u"FlblGPrice"_s), u"¥12.0"_s);
+}
+
+TEST_F(TillScreen, TheKeyToThePaymentLeavesAFieldAsAClickDoes)
+{
+    Press(Qt::Key_Return);
+    Type(u"Z-9"_s);
+    boxes.Expect(u"该编号不存在或已结算，请重新输入！"_s);
+    Press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
+}
+
 // Whole figures
 
 TEST_F(TillScreen, ALargeTotalShrinksBeforeItsFrontIsCut)
