@@ -112,6 +112,10 @@ void frmSale::SaveNewTicket(const Ticket& ticket)
         CarryBatchOn();
     BumpBillCounter(Session::CurrentUserID, BillSeries::Tickets, ticket.saleDate);
     EmptyTicket();
+    // The figures go all the same, and the number is used up: without a word they would seem to be saved.
+    ui->FlblNotice->setText(ticket.prdNo.isEmpty()
+                                ? u"没有编号，这一单没有保存；\n单号%1已用掉。"_s.arg(ui->txtSalNo->text())
+                                : QString());
     if (!LeaveWhenOutOfStep())
         ui->txtSalNo->setText(NextBillNo(BillSeries::Tickets));
 }

@@ -104,8 +104,10 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
     // The key stands beside the caption of 实收.
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_R), this), &QShortcut::activated, this,
             [this] { RunHandler([this] { FocusAndSelect(ui->txtRPrice); }); });
-    for (QLineEdit* box : TextBoxes())
+    for (QLineEdit* box : TextBoxes()) {
         KeepNarrowed(box);
+        connect(box, &QLineEdit::textEdited, ui->FlblNotice, &QLabel::clear);
+    }
 }
 
 frmSale::~frmSale() = default;

@@ -173,6 +173,54 @@ TEST_F(TillScreen, TheKeyToThePaymentLeavesAFieldAsAClickDoes)
     EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
 }
 
+// A ticket without a number
+
+TEST_F(TillScreen, FiguresWithoutANumberAreSaidNotToBeSaved)
+{
+    Sell();
+    EXPECT_EQ(Caption(u"FlblNotice"_s), QString());
+    SaveWithoutNumber();
+    EXPECT_EQ(Caption(u"FlblNotice"_s), Unsaved);
+    EXPECT_EQ(Count(u"Sal_List"_s), 1);
+    EXPECT_EQ(TicketCounter(), u"2"_s);
+    EXPECT_EQ(Text(u"txtSalNo"_s), u"NO.01260309003"_s);
+    EXPECT_EQ(Text(u"txtUPR"_s), QString());
+}
+
+TEST_F(TillScreen, TheNoticeStandsUntilSomethingIsTypedAgain)
+{
+    Sell();
+    SaveWithoutNumber();
+    Press(Qt::Key_Return); // moving on is not yet typing
+    EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
+    EXPECT_EQ(Caption(u"FlblNotice"_s), Unsaved);
+    Type(u"A"_s);
+    EXPECT_EQ(Caption(u"FlblNotice"_s), QString());
+}
+
+TEST_F(TillScreen, TheNoticeGoesWithTheNextTicket)
+{
+    Sell();
+    SaveWithoutNumber();
+    for (const auto& [box, text] : {std::pair{u"txtPRDNo"_s, u"A-001"_s}, std::pair{u"txtUPR"_s, u"2"_s},
+                                    std::pair{u"txtSalesID"_s, u"11"_s}})
+        Box(box)->setText(text);
+    EXPECT_EQ(Caption(u"FlblNotice"_s), Unsaved) << "what the program writes is not typing";
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Count(u"Sal_List"_s), 2);
+    EXPECT_EQ(Caption(u"FlblNotice"_s), QString());
+}
+
+TEST_F(TillScreen, ARefusedTicketIsNotSaidToHaveUsedUpANumber)
+{
+    Sell();
+    Press(Qt::Key_Return);
+    Box(u"txtUPR"_s)->setText(u"3"_s);
+    boxes.Expect(u"工号不能为空！"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Caption(u"FlblNotice"_s), QString());
+}
+
 // Whole figures
 
 TEST_F(TillScreen, ALargeTotalShrinksBeforeItsFrontIsCut)
