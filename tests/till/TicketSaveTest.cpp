@@ -244,7 +244,8 @@ TEST_F(TicketSave, NoPiecesAreAcceptedForTheFeeAloneAndMoveNoCrates)
     TypeTicket({.prdNo = u"B-001"_s, .num = u"0"_s, .suttle = u"3"_s, .upr = u"2"_s});
     TakeStatements();
     Press(Qt::Key_Return);
-    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty()) << "no pieces, no question for the crate type";
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty())
+        << "no pieces, no question for the crate type";
     EXPECT_EQ(TicketRow(FirstNo, u"Num,Amount,TotalAmount"_s), (QStringList{u"0"_s, u"6"_s, u"6"_s}));
     EXPECT_EQ(NumSal(u"B-001"_s), u"200"_s);
     EXPECT_EQ(CratesOut(), u"0"_s);
