@@ -8,9 +8,9 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "printing/Documents.h"
+#include "till/SaleLot.h"
 #include "till/TicketTotals.h"
 
 #include "ui_frmSale.h"
@@ -25,54 +25,6 @@ namespace {
 constexpr int CreditSale = 1;
 constexpr int StatusClosed = 1;
 
-void InsertTicket(const Ticket& ticket)
-{
-    const QStringList values{
-        Quoted(ticket.vendee),
-        Quoted(ticket.saleDate),
-        Quoted(ticket.businessDate),
-        Quoted(ticket.saleTime),
-        Quoted(ticket.custName),
-        Quoted(ticket.prdNo),
-        Quoted(ticket.prdName),
-        SqlNumber(ticket.num),
-        SqlNumber(ticket.suttle),
-        SqlNumber(ticket.upr),
-        SqlNumber(ticket.perPack),
-        SqlNumber(ticket.packAmount),
-        SqlNumber(ticket.perForegift),
-        SqlNumber(ticket.foregiftAmount),
-        SqlNumber(ticket.amount),
-        SqlNumber(ticket.totalAmount),
-        Quoted(ticket.listNo),
-        Quoted(ticket.store),
-        Quoted(Session::CurrentUserID),
-        Quoted(ticket.lotId),
-        Quoted(ticket.salNo),
-        Quoted(ticket.salesId),
-        Quoted(ticket.pArea),
-        Quoted(QString::number(ticket.saleType)),
-        Quoted(QString::number(ticket.itm)),
-    };
-    Gateway().InsertRow(u"Sal_List"_s,
-                        u"Vendee,SaleDate,FSaleDate,SaleTime,CustName,PRDNo,PRDName,Num,Suttle,UPR,"
-                        "PerPack,PackAmount,PerForegift,ForegiftAmount,Amount,TotalAmount,ListNo,Store,"
-                        "Receiver,ID,SalNo,SalesID,PArea,SaleType,ITM"_s,
-                        values.join(u','));
-}
-
-/// The crates that left with the buyer against a deposit. A lot without a crate type moves none.
-void CountCratesOut(const Ticket& ticket)
-{
-    if (ticket.num <= 0 || ticket.perForegift <= 0)
-        return;
-    const RecordSet pack = Gateway().SelectRows(u"PRD_List"_s, u"PackNo"_s,
-                                                u"ID="_s + Quoted(ticket.lotId) + u" And PackNo<>''"_s);
-    if (!pack.Eof())
-        Gateway().UpdateRows(u"DFN_Pack"_s, u"Num_Pack=Num_Pack+"_s + SqlNumber(ticket.num),
-                             u"PackNo="_s + Quoted(pack.Text(0)));
-}
-
 } // namespace
 
 void frmSale::SaveTicket()
@@ -82,13 +34,12 @@ void frmSale::SaveTicket()
         Ticket ticket = ReadTicket(now);
         if (!IsComplete(ticket) || !PassesCreditTest(ticket))
             return;
-        ticket.businessDate = BusinessDate(now, GetDeadline());
-        if (!LotIsOpen(ticket.lotId)) {
+        ticket.fSaleDate = BusinessDate(now, GetDeadline());
+        if (!LotIsOpen(ticket.id)) {
             Refuse(ui->txtPRDNo, u"该编号已被结算，不能进行收银处理，请确认。"_s);
             return;
         }
-        if (m_ticketMode == TicketMode::New)
-            SaveNewTicket(ticket);
+        SaveNewTicket(ticket);
     });
 }
 
@@ -100,7 +51,7 @@ Ticket frmSale::ReadTicket(const QDateTime& now) const
     ticket.vendee = ui->txtVendee->text();
     ticket.saleDate = FormatDate(now.date());
     ticket.saleTime = FormatTime(now.time());
-    ticket.lotId = m_lotId;
+    ticket.id = m_lotId;
     ticket.prdNo = ui->txtPRDNo->text();
     ticket.prdName = ui->txtPRDName->text();
     ticket.custName = ui->lblCustName->text();
@@ -119,13 +70,14 @@ Ticket frmSale::ReadTicket(const QDateTime& now) const
     ticket.salesId = ui->txtSalesID->text();
     ticket.saleType = ui->cmbSaleType->currentIndex();
     ticket.itm = m_batchCount + 1;
+    ticket.receiver = Session::CurrentUserID;
     return ticket;
 }
 
 bool frmSale::IsComplete(const Ticket& ticket)
 {
     const bool lacksDeposit =
-        !ticket.prdNo.isEmpty() && LotHasDeposit(ticket.lotId) && ToInt16(ticket.perForegift) == 0;
+        !ticket.prdNo.isEmpty() && LotHasDeposit(ticket.id) && ToInt16(ticket.perForegift) == 0;
     if (lacksDeposit)
         return Refuse(ui->txtPerForegift, u"押包装必须填写！"_s);
     if (ui->txtUPR->text().isEmpty())
@@ -141,7 +93,7 @@ bool frmSale::PassesCreditTest(const Ticket& ticket)
         return true;
     if (ticket.vendee.isEmpty())
         return Refuse(ui->txtVendee, u"赊销时购买方不能为空！"_s);
-    if (CheckCreditLimit(ticket.vendee, ticket.totalAmount, m_oldTotalAmount))
+    if (CheckCreditLimit(ticket.vendee, ticket.totalAmount, 0))
         return true;
     ShowInfo(u"已超出购买方信用额度，可用信用额度为"_s + NumberText(Session::CreditLeft) + u"元。"_s);
     return false;
@@ -152,15 +104,19 @@ void frmSale::SaveNewTicket(const Ticket& ticket)
     if (!StockSuffices(ticket))
         return;
     // Without a number there is no ticket, only the screen is readied for the next one.
-    if (!ticket.prdNo.isEmpty() && !BookTicket(ticket))
+    if (!ticket.prdNo.isEmpty() && !BookNewTicket(ticket))
         return;
     EmptyOpenBoxes();
     if (ClosesBatch())
         CloseBatch();
     else
         CarryBatchOn();
-    BumpBillCounter(Session::CurrentUserID, BillSeries::Tickets, FormatDate(Clock::Now().date()));
+    BumpBillCounter(Session::CurrentUserID, BillSeries::Tickets, ticket.saleDate);
     EmptyTicket();
+    // The figures go all the same, and the number is used up: without a word they would seem to be saved.
+    ui->FlblNotice->setText(ticket.prdNo.isEmpty()
+                                ? u"没有编号，这一单没有保存；\n单号%1已用掉。"_s.arg(ui->txtSalNo->text())
+                                : QString());
     if (!LeaveWhenOutOfStep())
         ui->txtSalNo->setText(NextBillNo(BillSeries::Tickets));
 }
@@ -169,24 +125,20 @@ bool frmSale::StockSuffices(const Ticket& ticket)
 {
     if (Session::SaleStockControl != u"1")
         return true;
-    const double limit = StockLimit(ticket.lotId);
+    const double limit = StockLimit(ticket.id);
     if (ticket.num <= limit)
         return true;
     return Refuse(ui->txtNum, u"库存不足！仅允许销售"_s + NumberText(limit) + u"件。"_s);
 }
 
-bool frmSale::BookTicket(const Ticket& ticket)
+bool frmSale::BookNewTicket(const Ticket& ticket)
 {
-    InsertTicket(ticket);
-    if (!TicketExists(ticket.salNo)) {
+    if (!BookTicket(ticket)) {
         ShowInfo(u"数据无法提交，请检查数据！"_s);
         return false;
     }
     CountIntoBatch();
-    Gateway().UpdateRows(u"PRD_List"_s, u"Num_Sal=Num_Sal-"_s + SqlNumber(ticket.num),
-                         u"ID="_s + Quoted(ticket.lotId));
-    PrintDocument(Document::SaleList, m_printStyle, *this);
-    CountCratesOut(ticket);
+    ApplyTicket(ticket, [this] { PrintDocument(Document::SaleList, m_printStyle, *this); });
     return true;
 }
 

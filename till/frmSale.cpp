@@ -8,15 +8,22 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
+#include "core/forms/WholeText.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
+#include "till/SaleLot.h"
 #include "till/TicketTotals.h"
 
 #include "ui_frmSale.h"
 
+#include <QKeyEvent>
+#include <QShortcut>
 #include <QStyle>
+
+#include <optional>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -40,16 +47,23 @@ void ShowMoney(QLineEdit* box, double yuan)
 /// A sum with the same sum in capitals; no capitals for nothing.
 void ShowCapitals(QLabel* figure, const QString& caption, QLabel* capitals)
 {
-    figure->setText(caption);
-    capitals->setText(MoneyToCapitals(TextToDouble(caption)));
+    ShowWhole(figure, caption);
+    ShowWhole(capitals, MoneyToCapitals(TextToDouble(caption)));
 }
 
-/// A payment that falls short shows in another colour: its minus alone is easily overlooked.
-void SetShort(QLabel* change, bool isShort)
+enum class Change { New, Old };
+
+/// The change of a batch. One that falls short shows in another colour: its minus alone is easily
+/// overlooked. That of a batch before is small and dim: nobody must give it again.
+void ShowChangeAs(QLabel* label, const QString& change, Change age)
 {
-    change->setProperty("isShort", isShort);
-    change->style()->unpolish(change);
-    change->style()->polish(change);
+    constexpr double oldSize = 0.5;
+    label->setProperty("isShort", change.startsWith(u'-'));
+    label->setProperty("isOld", age == Change::Old);
+    // The style sheet asks for the properties, and looks again only when told.
+    label->style()->unpolish(label);
+    label->style()->polish(label);
+    ShowWhole(label, change, age == Change::Old ? oldSize : 1);
 }
 
 } // namespace
@@ -58,10 +72,9 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
 {
     ui->setupUi(this);
     const auto recalc = [this] { RecalcTicket(); };
-    const auto pickVendee = [this] { PickVendee(); };
     const auto putSalesName = [this] { ui->txtSalesName->setText(GetSalesName(ui->txtSalesID->text())); };
 
-    Chain().Field(ui->txtVendee).OnDoubleClick(pickVendee).OnKey(Qt::Key_F2, pickVendee);
+    Chain().Field(ui->txtVendee).OnDoubleClick([this] { PickVendee(); });
     Chain().Field(ui->txtPRDNo).AtMost(LotNumberWidth).MovesOnWhenFilled().OnLeave([this] { LookupLot(); });
     Chain().Field(ui->txtVerifyID).AtMost(CheckCodeWidth).OnLeave([this] { CheckVerifyCode(); });
     Chain().Field(ui->txtPRDName);
@@ -88,6 +101,13 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
         .OutsideChain();
     OnPress(ui->cmdSubmit, [this] { SaveTicket(); });
     OnPress(ui->cmdCancel, [this] { close(); });
+    // The key stands beside the caption of 实收.
+    connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_R), this), &QShortcut::activated, this,
+            [this] { RunHandler([this] { FocusAndSelect(ui->txtRPrice); }); });
+    for (QLineEdit* box : TextBoxes()) {
+        KeepNarrowed(box);
+        connect(box, &QLineEdit::textEdited, ui->FlblNotice, &QLabel::clear);
+    }
 }
 
 frmSale::~frmSale() = default;
@@ -103,8 +123,6 @@ void frmSale::OnLoad()
     ShowThisBatch(FormatMoney(m_batchTotal));
     TakeNextNumber();
     ShowHeadings();
-    m_ticketMode = TicketMode::New;
-    m_oldTotalAmount = 0;
     m_printStyle = GetPrintStyle(u"P03"_s);
 }
 
@@ -140,9 +158,10 @@ void frmSale::ShowHeadings()
     ShowCentred(ui->lblReportName, GetDepartName());
     const bool isVerifyOn = IsVerifyOn();
     ui->txtVerifyID->setVisible(isVerifyOn);
-    if (!isVerifyOn) // the number takes the room of the code
-        ui->txtPRDNo->resize(ui->txtVerifyID->geometry().right() + 1 - ui->txtPRDNo->x(),
-                             ui->txtPRDNo->height());
+    if (!isVerifyOn) { // the number stands over the pieces, and takes the room of the code
+        const QRect below = ui->txtNum->geometry();
+        ui->txtPRDNo->setGeometry(below.x(), ui->txtPRDNo->y(), below.width(), below.height());
+    }
 }
 
 void frmSale::TakeName(const QString& name)
@@ -155,6 +174,14 @@ void frmSale::PickVendee()
     Windows().ShowModal(u"frmGetCustList"_s, this);
 }
 
+void frmSale::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_F2 && event->modifiers() == Qt::NoModifier)
+        RunHandler([this] { PickVendee(); });
+    else
+        FormWindow::keyPressEvent(event);
+}
+
 void frmSale::LookupLot()
 {
     const QString number = ui->txtPRDNo->text().trimmed();
@@ -163,23 +190,24 @@ void frmSale::LookupLot()
         Chain().ReturnTo(ui->txtPRDNo);
         return;
     }
-    const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s, u"PRDNo,ID,PRDName,CustName,PArea,Store,PerForegift"_s,
-        u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
-    if (lot.Eof()) {
+    // A failing statement leaves no lot in hand: the number on the screen would be sold off the lot before.
+    const QString lotBefore = std::exchange(m_lotId, QString());
+    const std::optional<SaleLot> lot = FindSaleLot(number);
+    if (!lot) {
+        m_lotId = lotBefore;
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
         WriteText(ui->txtPRDNo, QString());
         Chain().ReturnTo(ui->txtPRDNo);
         return;
     }
-    WriteText(ui->txtPRDNo, lot.Text(0));
-    m_lotId = lot.Text(1);
-    ui->txtPRDName->setText(lot.Text(2));
-    ui->lblCustName->setText(lot.Text(3));
-    ui->lblPArea->setText(lot.Text(4));
-    m_lotStore = lot.Text(5);
+    WriteText(ui->txtPRDNo, lot->prdNo);
+    m_lotId = lot->id;
+    ui->txtPRDName->setText(lot->prdName);
+    ShowNarrowed(ui->lblCustName, lot->custName);
+    ShowNarrowed(ui->lblPArea, lot->pArea);
+    m_lotStore = lot->store;
     if (ui->txtPerForegift->text().isEmpty())
-        WriteText(ui->txtPerForegift, lot.Text(6));
+        WriteText(ui->txtPerForegift, lot->perForegift);
 }
 
 void frmSale::CheckVerifyCode()
@@ -228,6 +256,8 @@ void frmSale::ShowThisBatch(const QString& caption)
 void frmSale::ShowLastBatch(const QString& caption)
 {
     ShowCapitals(ui->FlblTPrice02, caption, ui->FlblUCaseTPrice02);
+    // What stands there was counted against the batch before.
+    ShowChangeAs(ui->FlblGPrice, ui->FlblGPrice->text(), Change::Old);
 }
 
 void frmSale::ShowChange()
@@ -237,8 +267,6 @@ void frmSale::ShowChange()
     if (paid.isEmpty()) {
         ui->FlblGPrice->clear();
     } else if (!owed.isEmpty()) {
-        const QString change = FormatMoney(TextToDouble(paid) - TextToDouble(owed));
-        ui->FlblGPrice->setText(change);
-        SetShort(ui->FlblGPrice, change.startsWith(u'-'));
+        ShowChangeAs(ui->FlblGPrice, FormatMoney(TextToDouble(paid) - TextToDouble(owed)), Change::New);
     }
 }

@@ -25,9 +25,11 @@ public:
     /// The buyer, from the picker.
     void TakeName(const QString& name) override;
 
-private:
-    enum class TicketMode { New = -1, Adjustment = 0 };
+protected:
+    /// The buyer is picked by F2 from anywhere in the window.
+    void keyPressEvent(QKeyEvent* event) override;
 
+private:
     // Entry
     void FillLists();
     void ShowHeadings();
@@ -49,21 +51,23 @@ private:
     bool PassesCreditTest(const Ticket& ticket);
     void SaveNewTicket(const Ticket& ticket);
     bool StockSuffices(const Ticket& ticket);
-    bool BookTicket(const Ticket& ticket);
+    bool BookNewTicket(const Ticket& ticket);
     void CountIntoBatch();
     void CarryBatchOn();
     void CloseBatch();
     void EmptyOpenBoxes();
+    /// Readies the screen for the next ticket. Of the saved one there stay: its lot (m_lotId, m_lotStore)
+    /// until another is looked up, the batch it belongs to with its figures, lblTotal as it was printed,
+    /// the change that was given, date and cashier. The boxes that take typing are empty already
+    /// (EmptyOpenBoxes).
     void EmptyTicket();
     bool ClosesBatch() const;
     bool Refuse(QWidget* field, const QString& why);
 
     std::unique_ptr<Ui::frmSale> ui;
-    TicketMode m_ticketMode = TicketMode::New;
     QString m_lotId; ///< the lot last looked up; it outlives the save of its ticket
     QString m_lotStore;
-    double m_batchTotal = 0;     ///< yuan of the open batch's saved tickets
-    int m_batchCount = 0;        ///< how many they are
-    double m_oldTotalAmount = 0; ///< yuan of the ticket before its adjustment; 0 for a new one
+    double m_batchTotal = 0; ///< yuan of the open batch's saved tickets
+    int m_batchCount = 0;    ///< how many they are
     QString m_printStyle;
 };

@@ -16,6 +16,7 @@ const QString BillSeries::Expenses = u"FL"_s;
 namespace {
 constexpr int SerialDigits = 3;
 constexpr int PrefixLength = 3; // "NO."
+constexpr int UserIdLength = 2; // of the user a number begins with
 } // namespace
 
 QString BuildBillNo(const QString& serial)
@@ -37,6 +38,17 @@ QString NextBillNo(const QString& series)
 QString StoredBillNo(const QString& shownNumber)
 {
     return shownNumber.mid(PrefixLength);
+}
+
+QString WriterOfBill(const QString& number)
+{
+    return number.trimmed().left(UserIdLength);
+}
+
+bool MayEditBill(const QString& number)
+{
+    return UserMayEdit(Session::CurrentUserID) ||
+           WriterOfBill(number).compare(Session::CurrentUserID, Qt::CaseInsensitive) == 0;
 }
 
 void BumpBillCounter(const QString& uid, const QString& tid, const QString& currDate)

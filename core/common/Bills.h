@@ -25,6 +25,15 @@ QString NextBillNo(const QString& series);
 /// A shown number without its "NO.", as it is stored: everything from the fourth character on.
 QString StoredBillNo(const QString& shownNumber);
 
+/// The user that a bill's number begins with (its first two characters, blanks around it left aside): who
+/// wrote it.
+QString WriterOfBill(const QString& number);
+
+/// True when the current user may adjust the bill of this number (without "NO."): one who may adjust
+/// everybody's, else the bill's writer, upper and lower case alike. Asks anew each time, since the right
+/// counts at once. @throws DatabaseError
+bool MayEditBill(const QString& number);
+
 /// Moves a counter by one; a counter that does not exist yet starts at 1. @throws DatabaseError
 void BumpBillCounter(const QString& uid, const QString& tid, const QString& currDate);
 

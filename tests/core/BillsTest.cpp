@@ -88,3 +88,50 @@ TEST_F(Bills, ABumpOfAnotherTillBetweenReadAndWriteIsNotLost)
     BumpBillCounter(u"01"_s, u"01"_s, u"2026-03-09"_s);
     EXPECT_EQ(Value(u"SELECT CurrNumber FROM Count_Bill"_s), u"3"_s);
 }
+
+// The right to adjust a bill
+
+TEST_F(Bills, WhoMayAdjustEverybodysBillsMayAdjustAnyNumber)
+{
+    Db().Run(u"INSERT INTO User_List (UserID,UserName,bolEdit) VALUES ('A1','甲','1')"_s);
+    Session::CurrentUserID = u"A1"_s;
+    TakeStatements();
+    EXPECT_TRUE(MayEditBill(u"B2260115003"_s));
+    EXPECT_EQ(TakeStatements(), QStringList{u"SELECT bolEdit FROM User_List WHERE UserID='A1'"_s});
+    EXPECT_TRUE(MayEditBill(QString()));
+}
+
+TEST_F(Bills, WithoutTheRightOnlyTheWriterMayAdjustHisBill)
+{
+    Db().Run(u"INSERT INTO User_List (UserID,UserName,bolEdit) VALUES ('A1','甲','0')"_s);
+    Session::CurrentUserID = u"A1"_s;
+    EXPECT_TRUE(MayEditBill(u"A1260115003"_s));
+    EXPECT_TRUE(MayEditBill(u" a1260115003 "_s));
+    EXPECT_FALSE(MayEditBill(u"B2260115003"_s));
+    EXPECT_FALSE(MayEditBill(u"1A1260115003"_s));
+    EXPECT_FALSE(MayEditBill(u"A"_s));
+    EXPECT_FALSE(MayEditBill(QString()));
+}
+
+TEST_F(Bills, TheRightToAdjustCountsFromTheMomentItIsGiven)
+{
+    Db().Run(u"INSERT INTO User_List (UserID,UserName,bolEdit) VALUES ('A1','甲','0')"_s);
+    Session::CurrentUserID = u"A1"_s;
+    EXPECT_FALSE(MayEditBill(u"B2260115003"_s));
+    Db().Run(u"UPDATE User_List SET bolEdit='1' WHERE UserID='A1'"_s);
+    EXPECT_TRUE(MayEditBill(u"B2260115003"_s));
+}
+
+TEST_F(Bills, AUserWhoIsGoneMayAdjustHisOwnBillsOnly)
+{
+    Session::CurrentUserID = u"A1"_s;
+    EXPECT_TRUE(MayEditBill(u"A1260115003"_s));
+    EXPECT_FALSE(MayEditBill(u"B2260115003"_s));
+}
+
+TEST_F(Bills, ANumberBeginsWithItsWriter)
+{
+    EXPECT_EQ(WriterOfBill(u"05060309012"_s), u"05"_s);
+    EXPECT_EQ(WriterOfBill(u" 05060309012"_s), u"05"_s);
+    EXPECT_EQ(WriterOfBill(u"0"_s), u"0"_s);
+}

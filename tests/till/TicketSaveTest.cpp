@@ -208,7 +208,10 @@ TEST_F(TicketSave, ADepositBeyondSixteenBitsIsAnErrorThatIsLogged)
 TEST_F(TicketSave, ALotWithoutDepositPassesWithZeroAndMovesNoCrates)
 {
     Db().Run(u"UPDATE PRD_List SET PackNo='K1' WHERE PRDNo='A-001'"_s);
-    Sell({.perForegift = u"0"_s});
+    TypeTicket({.perForegift = u"0"_s});
+    TakeStatements();
+    Press(Qt::Key_Return);
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty());
     EXPECT_EQ(Count(u"Sal_List"_s), 1);
     EXPECT_EQ(CratesOut(), u"0"_s);
 }
@@ -225,7 +228,9 @@ TEST_F(TicketSave, ANegativeDepositPassesAndMovesNoCrates)
 {
     TypeTicket({.prdNo = u"B-001"_s});
     Box(u"txtPerForegift"_s)->setText(u"-5"_s);
+    TakeStatements();
     Press(Qt::Key_Return);
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty());
     EXPECT_EQ(TicketRow(FirstNo, u"PerForegift,ForegiftAmount"_s), (QStringList{u"-5"_s, u"-50"_s}));
     EXPECT_EQ(CratesOut(), u"0"_s);
 }
@@ -239,7 +244,10 @@ TEST_F(TicketSave, APriceOfZeroPasses)
 TEST_F(TicketSave, NoPiecesAreAcceptedForTheFeeAloneAndMoveNoCrates)
 {
     TypeTicket({.prdNo = u"B-001"_s, .num = u"0"_s, .suttle = u"3"_s, .upr = u"2"_s});
+    TakeStatements();
     Press(Qt::Key_Return);
+    EXPECT_TRUE(TakeStatements().filter(u"PackNo"_s).isEmpty())
+        << "no pieces, no question for the crate type";
     EXPECT_EQ(TicketRow(FirstNo, u"Num,Amount,TotalAmount"_s), (QStringList{u"0"_s, u"6"_s, u"6"_s}));
     EXPECT_EQ(NumSal(u"B-001"_s), u"200"_s);
     EXPECT_EQ(CratesOut(), u"0"_s);
@@ -441,6 +449,26 @@ TEST_F(TicketSave, OverMidnightTheMainMachineGoesOnAndLosesTheFirstNumberOfTheDa
               (std::vector<QStringList>{{u"2026-03-10"_s, u"1"_s}}));
     EXPECT_EQ(Text(u"txtSalNo"_s), u"NO.01260310002"_s);
     EXPECT_TRUE(TillIsOpen());
+}
+
+TEST_F(TicketSave, MidnightWithinASaveMovesTheCounterOfTheTicketsDay)
+{
+    PrinterSpy printer;
+    printer.look = [this] {
+        SetClock(u"2026-03-10 00:00:01"_s);
+        return QString();
+    };
+    SetDocumentPrinter(&printer);
+    Db().Run(u"UPDATE DFN_Paper SET PrintStyle='2' WHERE PaperID='P03'"_s);
+    Press(Qt::Key_C, Qt::AltModifier);
+    OpenTill();
+    TypeTicket();
+    SetClock(u"2026-03-09 23:59:59"_s);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(TicketRow(FirstNo, u"SaleDate,SaleTime"_s), (QStringList{u"2026-03-09"_s, u"23:59:59"_s}));
+    EXPECT_EQ(Db().Rows(u"SELECT CurrDate,CurrNumber FROM Count_Bill"_s),
+              (std::vector<QStringList>{{u"2026-03-09"_s, u"1"_s}}));
+    EXPECT_EQ(Text(u"txtSalNo"_s), u"NO.01260310001"_s) << "the new day begins with its first number";
 }
 
 TEST_F(TicketSave, OverMidnightAWorkstationSavesTheTicketAndCloses)
