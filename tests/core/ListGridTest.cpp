@@ -392,6 +392,7 @@ TEST_F(Grid, TheFocusIsAFrameThatNoRowCutsOverAGroundThatStaysWhite)
 {
     ManyRows(100);
     Find(u"frmProbe"_s, u"txtElsewhere"_s)->setFocus();
+    Settle();
     const QRect rows = list->viewport()->geometry();
     list->setFocus();
     Settle();
