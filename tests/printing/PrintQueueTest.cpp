@@ -47,6 +47,20 @@ protected:
         return {};
     }
 
+    /// The same where no file can grow beyond a hundred bytes.
+    static QString RefusalOnAFullDisk(PrintJob& job)
+    {
+        rlimit before{};
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit full{100, before.rlim_max};
+        const auto handler = signal(SIGXFSZ, SIG_IGN);
+        setrlimit(RLIMIT_FSIZE, &full);
+        const QString refusal = Refusal(job);
+        setrlimit(RLIMIT_FSIZE, &before);
+        signal(SIGXFSZ, handler);
+        return refusal;
+    }
+
     void ExpectFolderBox()
     {
         boxes.Expect(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + ProgramFolder() +
@@ -175,31 +189,15 @@ TEST_F(PrintQueue, AFullDiskLeavesNoHalfFile)
     ASSERT_TRUE(QDir().mkpath(PdfFolder()));
     PrintJob job(u"收银票"_s, 9, false);
     Paint(job);
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{100, before.rlim_max};
-    const auto handler = signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &full);
-    const QString refusal = Refusal(job);
-    setrlimit(RLIMIT_FSIZE, &before);
-    signal(SIGXFSZ, handler);
-    EXPECT_EQ(refusal, u"无法写入文件："_s + KeptFile());
+    EXPECT_EQ(RefusalOnAFullDisk(job), u"无法写入文件："_s + KeptFile());
     EXPECT_EQ(Kept(), QStringList());
 }
 
 TEST_F(PrintQueue, AFolderThatTookNoFileIsGoneAndNotTold)
 {
-    rlimit before{};
-    getrlimit(RLIMIT_FSIZE, &before);
-    const rlimit full{100, before.rlim_max};
-    const auto handler = signal(SIGXFSZ, SIG_IGN);
-    setrlimit(RLIMIT_FSIZE, &full);
     PrintJob job(u"收银票"_s, 9, false);
     Paint(job);
-    const QString refusal = Refusal(job);
-    setrlimit(RLIMIT_FSIZE, &before);
-    signal(SIGXFSZ, handler);
-    EXPECT_EQ(refusal, u"无法写入文件："_s + KeptFile());
+    EXPECT_EQ(RefusalOnAFullDisk(job), u"无法写入文件："_s + KeptFile());
     Settle();
     EXPECT_FALSE(QDir(PdfFolder()).exists());
 
