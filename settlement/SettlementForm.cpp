@@ -3,6 +3,7 @@
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Bills.h"
+#include "core/common/ColumnNames.h"
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
@@ -179,30 +180,33 @@ void SettlementForm::LookUpLot(const QString& number)
         Chain().ReturnTo(c.txtPRDNo);
         return;
     }
-    const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s, u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + ExtraLotColumns(),
-        u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
+    const ColumnNames columns(u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + ExtraLotColumns());
+    const RecordSet lot = Gateway().SelectRows(u"PRD_List"_s, columns.Text(),
+                                               u"(PRDNo="_s + Quoted(number) + u" Or PRDNo_S="_s +
+                                                   Quoted(number) + u") And bolCheckOut='0'"_s);
     if (lot.Eof()) {
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
         WriteText(c.txtPRDNo, QString());
         Chain().ReturnTo(c.txtPRDNo);
         return;
     }
-    m_lotId = lot.Text(0);
-    c.txtCustName->setText(lot.Text(1));
-    TakeStore(lot.Text(2));
-    c.txtPRDName->setText(lot.Text(3));
+    const auto text = [&](const QString& column) { return lot.Text(columns.At(column)); };
+    m_lotId = text(u"ID"_s);
+    c.txtCustName->setText(text(u"CustName"_s));
+    TakeStore(text(u"Store"_s));
+    c.txtPRDName->setText(text(u"PRDName"_s));
     // Last of the four: on the layout that clears itself with each new number, a lot found by its
     // shortcut loses owner, store and product here.
-    WriteText(c.txtPRDNo, lot.Text(5));
+    WriteText(c.txtPRDNo, text(u"PRDNo"_s));
 
-    const QString ofLot = u"ID='"_s + m_lotId + u"'"_s;
+    const QString ofLot = u"ID="_s + Quoted(m_lotId);
     const double pieces = SumField(u"Sal_List"_s, u"Num"_s, ofLot);
     const double unweighed = SumField(u"Sal_List"_s, u"Num"_s, ofLot + u" And Suttle=0"_s);
     const double weighed = SumField(u"Sal_List"_s, u"Suttle"_s, ofLot);
     const double amount = SumField(u"Sal_List"_s, u"Amount"_s, ofLot);
     c.txtNum->setText(NumberText(pieces));
-    c.txtSuttle->setText(NumberText(WeightShown(weighed, unweighed, NullToZero(lot.Fields(4).Value))));
+    const double perPiece = NullToZero(lot.Fields(columns.At(u"MPercent"_s)).Value);
+    c.txtSuttle->setText(NumberText(WeightShown(weighed, unweighed, perPiece)));
     c.txtAmount->setText(FormatAmount(amount, QString()));
     c.txtListNum->setText(QString::number(CountLotTickets(m_lotId)));
 

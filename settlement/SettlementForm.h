@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/forms/FormWindow.h"
+#include "settlement/Settlement.h"
 #include "settlement/SettlementControls.h"
 
 class RecordSet;
@@ -64,7 +65,7 @@ private:
     void ChargeByUnit(const QString& feeId, const QLineEdit* rate, QLineEdit* fee);
 
     void SaveSettlement();
-    QString CheckOutValues(const QString& checkNo, const QString& checkDate) const;
+    Settlement SettlementOnSheet() const;
     void CloseLot(const QString& checkNo, const QString& today);
     void MakeRoomForNextLot();
 
