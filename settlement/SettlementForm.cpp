@@ -17,6 +17,8 @@
 #include "settlement/SheetStyle.h"
 
 #include <QEvent>
+#include <QFont>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -31,11 +33,34 @@ constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
 constexpr int PersonWidth = 60;
 
+const QString RenamingHint = u"双击，或在格子里按F2：修改收费名称"_s;
+
 /// A fee as calculated, then as it is shown: each writing runs the field's Change handler.
 void WriteFee(QLineEdit* fee, double amount)
 {
     WriteText(fee, NumberText(amount));
     WriteText(fee, FormatAmount(TextToDouble(fee->text()), u"1"_s));
+}
+
+/// A caption beside a rate has room for six characters. A longer one is narrowed on the screen, down to
+/// half its width, and told whole by the tool tip where that is not enough; its size, which paper takes
+/// from it, stays.
+void ShowCaption(QLabel* label, const QString& caption)
+{
+    constexpr int Step = 5;
+    label->ensurePolished();
+    QFont font = label->font();
+    const auto fits = [&] {
+        return QFontMetricsF(font).horizontalAdvance(caption) <= label->contentsRect().width();
+    };
+    int stretch = QFont::Unstretched;
+    font.setStretch(stretch);
+    while (!fits() && stretch > QFont::Unstretched / 2)
+        font.setStretch(stretch -= Step);
+    if (label->font().stretch() != stretch)
+        label->setFont(font);
+    label->setToolTip(fits() ? RenamingHint : caption + u'\n' + RenamingHint);
+    label->setText(caption);
 }
 
 } // namespace
@@ -60,7 +85,7 @@ void SettlementForm::Wire(const SettlementControls& controls)
     OnPress(m_controls.cmdCancel, [this] { close(); });
     for (QLabel* caption : m_controls.lblFee) {
         caption->installEventFilter(this);
-        caption->setToolTip(u"双击，或在格子里按F2：修改收费名称"_s);
+        caption->setToolTip(RenamingHint);
     }
 }
 
@@ -136,7 +161,7 @@ void SettlementForm::ShowFeeCaption(const QString& key, const QString& caption)
     bool isNumber = false;
     const auto index = key.mid(1).toUInt(&isNumber);
     if (isNumber && index < m_controls.lblFee.size())
-        m_controls.lblFee[index]->setText(caption);
+        ShowCaption(m_controls.lblFee[index], caption);
 }
 
 bool SettlementForm::eventFilter(QObject* watched, QEvent* event)
