@@ -4,11 +4,11 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/forms/RecordForms.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "goods/ListTables.h"
-#include "goods/LotStock.h"
 #include "ui_frmDataList.h"
 
 #include <QContextMenuEvent>
@@ -21,27 +21,18 @@ namespace {
 
 const QString LotsKey = u"PRDList"_s;
 
-double StockChange(const QString& lotId, const QString& type)
-{
-    return SumField(u"EStore_List"_s, u"Num"_s, u"ID='"_s + lotId + u"' And EStoreType='"_s + type + u"'"_s);
-}
-
 /// The figures of the short form: what came, and what is left as the lot itself keeps it.
 QStringList ShortFigures(const RecordSet& lot, const QString& lotId)
 {
-    const LotStock stock{.delivered = NullToZero(lot.Fields(5).Value), .added = StockChange(lotId, u"0"_s)};
+    const LotStock stock{.delivered = NullToZero(lot.Fields(5).Value), .added = SumAdded(lotId)};
     return {lot.Text(5), NumberText(stock.Arrived()), lot.Text(6)};
 }
 
 /// The figures of the detailed form, all from the movements.
 QStringList DetailedFigures(const RecordSet& lot, const QString& lotId)
 {
-    LotStock stock;
-    stock.delivered = NullToZero(lot.Fields(5).Value);
-    stock.added = StockChange(lotId, u"0"_s);
-    stock.movedOut = StockChange(lotId, u"1"_s);
-    stock.lost = StockChange(lotId, u"2"_s);
-    stock.sold = SumField(u"Sal_List"_s, u"Num"_s, u"ID='"_s + lotId + u"'"_s);
+    LotStock stock = ReadStockChanges(lotId, NullToZero(lot.Fields(5).Value));
+    stock.sold = SumSold(lotId);
     return {lot.Text(5),
             NumberText(stock.added),
             NumberText(stock.Arrived()),

@@ -3,6 +3,7 @@
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/gateway/DataGateway.h"
 #include "printing/Documents.h"
 #include "printing/frmTemp.h"
@@ -16,24 +17,12 @@ namespace {
 const QString LotSlipPaper = u"P01"_s;
 const QString LotSlipKey = u"PRDList"_s;
 
-double StockChange(const QString& lotId, const QString& type)
-{
-    return SumField(u"EStore_List"_s, u"Num"_s, u"ID='"_s + lotId + u"' And EStoreType='"_s + type + u"'"_s);
-}
-
 } // namespace
-
-double LotSlipStock(const LotSlip& slip)
-{
-    const double added = StockChange(slip.lotId, u"0"_s);
-    const double movedOut = StockChange(slip.lotId, u"1"_s);
-    const double lost = StockChange(slip.lotId, u"2"_s);
-    return Settled(slip.num + added - movedOut - lost);
-}
 
 void FillLotSlip(const LotSlip& slip)
 {
-    const double stock = LotSlipStock(slip);
+    // What came and stayed; the slip goes to the owner, and sales are not taken off on it.
+    const double stock = ReadStockChanges(slip.lotId, slip.num).StayedForSale();
     frmTemp::Load().Fill(slip, stock);
 }
 

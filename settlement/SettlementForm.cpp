@@ -7,6 +7,7 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
 #include "core/forms/WindowRegistry.h"
@@ -205,7 +206,8 @@ void SettlementForm::LookUpLot(const QString& number)
         Chain().ReturnTo(c.txtPRDNo);
         return;
     }
-    const ColumnNames columns(u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + ExtraLotColumns());
+    const ColumnNames columns(u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s +
+                              (HasStockLine() ? u",Num"_s : QString()));
     const RecordSet lot = Gateway().SelectRows(u"PRD_List"_s, columns.Text(),
                                                u"(PRDNo="_s + Quoted(number) + u" Or PRDNo_S="_s +
                                                    Quoted(number) + u") And bolCheckOut='0'"_s);
@@ -238,7 +240,11 @@ void SettlementForm::LookUpLot(const QString& number)
     WriteText(c.txtLExpendPrice, NumberText(SumField(u"CustDebit"_s, u"DebitAmount"_s, ofLot)));
     // An advance equal to the last lot's changes no text, and the net must still be this lot's.
     RecalculateSettlement();
-    ShowStock(lot, pieces);
+    if (HasStockLine()) {
+        LotStock stock = ReadStockChanges(m_lotId, NullToZero(lot.Fields(columns.At(u"Num"_s)).Value));
+        stock.sold = pieces;
+        ShowStock(stock);
+    }
 }
 
 void SettlementForm::ForgetLot()

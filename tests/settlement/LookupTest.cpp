@@ -370,6 +370,19 @@ TEST_F(StockLayout, ShowsHowTheLotsPiecesCameAndWent)
     EXPECT_EQ(shown, (QStringList{u"100"_s, u"22.5"_s, u"122.5"_s, u"7"_s, u"3"_s, u"40"_s, u"72.5"_s}));
 }
 
+TEST_F(StockLayout, ALotSoldOutInTenthsHasNothingLeft)
+{
+    Db().Run(u"UPDATE PRD_List SET Num=50.3 WHERE ID='20260301001'"_s);
+    Db().Run(u"INSERT INTO EStore_List (ID,EStoreType,Num) VALUES ('20260301001','2',0.1)"_s);
+    AddTicket(50.2, 0, 1000);
+    OpenLayout(u"frmCheckOut"_s);
+    EnterLot();
+    EXPECT_EQ(Text(u"txtSNum_6"_s), u"0"_s);
+    Db().Run(u"UPDATE PRD_List SET Num=0.1; UPDATE EStore_List SET EStoreType='0',Num=0.2"_s);
+    EnterLot();
+    EXPECT_EQ(Text(u"txtSNum_2"_s), u"0.3"_s);
+}
+
 TEST_F(StockLayout, KeepsTheFiguresOfTheLastLotUntilTheNextReplacesThem)
 {
     AddTicket(40, 0, 1000);
