@@ -3,6 +3,7 @@
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Bills.h"
+#include "core/common/ColumnNames.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
@@ -20,6 +21,11 @@ namespace {
 
 constexpr int NumberLength = 20; // characters of a numeric field
 constexpr int LastCustID = 999;
+
+/// What an open lot is shown from.
+const ColumnNames LotColumns(
+    u"PID,CustID,PRDName,Num,MPercent,CustInDate,Store,PArea,bolPack,CustName,CardNo,VerifyID,Address,"
+    "DebitPrice,Tel,Fax,Mobile,Memo,bolFixed,PerForegift,PRDNo_S,PackNo,ID"_s);
 
 QString Trimmed(const QLineEdit* box)
 {
@@ -146,11 +152,8 @@ void frmPRDList::LoadLotByNumber(const QString& number)
     if (number.isEmpty())
         return;
     try {
-        const RecordSet lot = Gateway().SelectRows(
-            u"PRD_List"_s,
-            u"PID,CustID,PRDName,Num,MPercent,CustInDate,Store,PArea,bolPack,CustName,CardNo,VerifyID,"
-            "Address,DebitPrice,Tel,Fax,Mobile,Memo,bolFixed,PerForegift,PRDNo_S,PackNo,ID"_s,
-            u"PRDNo="_s + Quoted(number) + u" And bolCheckOut='0'"_s);
+        const RecordSet lot = Gateway().SelectRows(u"PRD_List"_s, LotColumns.Text(),
+                                                   u"PRDNo="_s + Quoted(number) + u" And bolCheckOut='0'"_s);
         if (lot.Eof())
             return;
         m_isNewLot = false;
@@ -171,29 +174,30 @@ void frmPRDList::ForgetLot()
 
 void frmPRDList::ShowLot(const RecordSet& lot)
 {
-    WriteText(ui->txtPID, lot.Text(0));
-    WriteText(ui->txtCustID, lot.Text(1));
-    WriteText(ui->txtPRDName, lot.Text(2));
-    WriteText(ui->txtNum, lot.Text(3));
-    WriteText(ui->txtMPercent, lot.Text(4));
-    WriteText(ui->txtCustInDate, lot.Text(5));
-    WriteText(ui->txtStore, lot.Text(6));
-    WriteText(ui->txtPArea, lot.Text(7));
-    ui->cmbPack->setCurrentIndex(lot.Text(8).toInt());
-    WriteText(ui->txtCustName, lot.Text(9));
-    WriteText(ui->txtCardNO, lot.Text(10));
-    WriteText(ui->txtVerifyID, lot.Text(11));
-    WriteText(ui->txtAddress, lot.Text(12));
-    WriteText(ui->txtDebitPrice, lot.Text(13));
-    WriteText(ui->txtTel, lot.Text(14));
-    WriteText(ui->txtFax, lot.Text(15));
-    WriteText(ui->txtMobile, lot.Text(16));
-    WriteText(ui->txtMemo, lot.Text(17));
-    ui->chkFixed->setChecked(lot.Text(18) == u"1");
-    WriteText(ui->txtPerForegift, lot.Text(19));
-    WriteText(ui->txtPRDNo_S, lot.Text(20));
-    WriteText(ui->txtPackNo, lot.Text(21));
-    m_lotId = lot.Text(22);
+    const auto text = [&lot](const QString& column) { return lot.Text(LotColumns.At(column)); };
+    WriteText(ui->txtPID, text(u"PID"_s));
+    WriteText(ui->txtCustID, text(u"CustID"_s));
+    WriteText(ui->txtPRDName, text(u"PRDName"_s));
+    WriteText(ui->txtNum, text(u"Num"_s));
+    WriteText(ui->txtMPercent, text(u"MPercent"_s));
+    WriteText(ui->txtCustInDate, text(u"CustInDate"_s));
+    WriteText(ui->txtStore, text(u"Store"_s));
+    WriteText(ui->txtPArea, text(u"PArea"_s));
+    ui->cmbPack->setCurrentIndex(text(u"bolPack"_s).toInt());
+    WriteText(ui->txtCustName, text(u"CustName"_s));
+    WriteText(ui->txtCardNO, text(u"CardNo"_s));
+    WriteText(ui->txtVerifyID, text(u"VerifyID"_s));
+    WriteText(ui->txtAddress, text(u"Address"_s));
+    WriteText(ui->txtDebitPrice, text(u"DebitPrice"_s));
+    WriteText(ui->txtTel, text(u"Tel"_s));
+    WriteText(ui->txtFax, text(u"Fax"_s));
+    WriteText(ui->txtMobile, text(u"Mobile"_s));
+    WriteText(ui->txtMemo, text(u"Memo"_s));
+    ui->chkFixed->setChecked(text(u"bolFixed"_s) == u"1");
+    WriteText(ui->txtPerForegift, text(u"PerForegift"_s));
+    WriteText(ui->txtPRDNo_S, text(u"PRDNo_S"_s));
+    WriteText(ui->txtPackNo, text(u"PackNo"_s));
+    m_lotId = text(u"ID"_s);
     ui->cmbPType->setCurrentIndex(0);
 }
 

@@ -18,7 +18,7 @@ void FillChoices(QComboBox* combo, RecordSet rows)
 
 QString Condition(const QString& column, const QString& text)
 {
-    return text.isEmpty() ? QString() : u" And "_s + column + u"='"_s + text + u"'"_s;
+    return text.isEmpty() ? QString() : u" And "_s + column + u'=' + Quoted(text);
 }
 
 } // namespace

@@ -43,7 +43,7 @@ void CodeTableForm::LookUp()
     m_controls.name->clear();
     const RecordSet row =
         Gateway().SelectRows(m_table.table, m_table.nameColumn,
-                             m_table.keyColumn + u"='"_s + m_controls.key->text().trimmed() + u"'"_s);
+                             m_table.keyColumn + u'=' + Quoted(m_controls.key->text().trimmed()));
     m_isFound = !row.Eof();
     if (m_isFound)
         m_controls.name->setText(row.Text(0));
@@ -65,11 +65,11 @@ void CodeTableForm::Save()
             return;
         }
         if (m_isFound) {
-            Gateway().UpdateRows(m_table.table, m_table.nameColumn + u"='"_s + name + u"'"_s,
-                                 m_table.keyColumn + u"='"_s + key + u"'"_s);
+            Gateway().UpdateRows(m_table.table, m_table.nameColumn + u'=' + Quoted(name),
+                                 m_table.keyColumn + u'=' + Quoted(key));
         } else {
             Gateway().InsertRow(m_table.table, m_table.keyColumn + u',' + m_table.nameColumn,
-                                u"'"_s + key + u"','"_s + name + u"'"_s);
+                                Quoted(key) + u',' + Quoted(name));
         }
         WriteText(m_controls.key, QString());
         WriteText(m_controls.name, QString());

@@ -9,6 +9,8 @@
 
 #include "ui_frmCustList.h"
 
+#include <QStringList>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -58,7 +60,7 @@ void frmCustList::LookUp()
     m_isFound = false;
     ClearBuyer();
     const RecordSet row = Gateway().SelectRows(u"Cust_List"_s, Columns,
-                                               u"CustName='"_s + ui->txtCustName->text().trimmed() + u"'"_s);
+                                               u"CustName="_s + Quoted(ui->txtCustName->text().trimmed()));
     m_isFound = !row.Eof();
     if (m_isFound)
         ShowBuyer(row);
@@ -89,13 +91,13 @@ void frmCustList::Save()
 {
     Guarded(u"保存销货客户"_s, [this] {
         const QString name = ui->txtCustName->text().trimmed();
-        const QString address = ui->txtCustAddress->text().trimmed();
-        const QString charge = ui->txtCustCharge->text().trimmed();
-        const QString tel = ui->txtCustTel->text().trimmed();
-        const QString fax = ui->txtCustFax->text().trimmed();
-        const QString mobile = ui->txtCustMobile->text().trimmed();
+        const QString address = Quoted(ui->txtCustAddress->text().trimmed());
+        const QString charge = Quoted(ui->txtCustCharge->text().trimmed());
+        const QString tel = Quoted(ui->txtCustTel->text().trimmed());
+        const QString fax = Quoted(ui->txtCustFax->text().trimmed());
+        const QString mobile = Quoted(ui->txtCustMobile->text().trimmed());
         const QString credit = ui->txtCreditMoney->text().trimmed();
-        const QString control = ui->chkControl->isChecked() ? u"1"_s : u"0"_s;
+        const QString control = Quoted(ui->chkControl->isChecked() ? u"1"_s : u"0"_s);
         if (name.isEmpty()) {
             ShowInfo(u"请填写客户名称！"_s);
             FocusAndSelect(ui->txtCustName);
@@ -106,13 +108,13 @@ void frmCustList::Save()
         if (m_isFound) {
             Gateway().UpdateRows(
                 u"Cust_List"_s,
-                u"CustAddress='%1',CustCharge='%2',CustTel='%3',CustFax='%4',CustMobile='%5',CreditMoney=%6,bolControl='%7'"_s
+                u"CustAddress=%1,CustCharge=%2,CustTel=%3,CustFax=%4,CustMobile=%5,CreditMoney=%6,bolControl=%7"_s
                     .arg(address, charge, tel, fax, mobile, credit, control),
-                u"CustName='"_s + name + u"'"_s);
+                u"CustName="_s + Quoted(name));
         } else {
-            Gateway().InsertRow(u"Cust_List"_s, Columns,
-                                u"'%1','%2','%3','%4','%5','%6',%7,'%8'"_s.arg(name, address, charge, tel,
-                                                                               fax, mobile, credit, control));
+            Gateway().InsertRow(
+                u"Cust_List"_s, Columns,
+                QStringList{Quoted(name), address, charge, tel, fax, mobile, credit, control}.join(u','));
         }
         WriteText(ui->txtCustName, QString());
         ClearBuyer();

@@ -47,7 +47,7 @@ void frmStore::Save()
             FocusAndSelect(ui->txtStore);
             return;
         }
-        Gateway().InsertRow(u"Store"_s, u"Store"_s, u"'"_s + store + u"'"_s);
+        Gateway().InsertRow(u"Store"_s, u"Store"_s, Quoted(store));
         ShowStores();
         WriteText(ui->txtStore, QString());
         FocusAndSelect(ui->txtStore);
@@ -64,6 +64,6 @@ void frmStore::DeleteSelected()
     if (stores.isEmpty())
         return;
     for (const QString& store : stores)
-        Gateway().DeleteRows(u"Store"_s, u"Store='"_s + store + u"'"_s);
+        Gateway().DeleteRows(u"Store"_s, u"Store="_s + Quoted(store));
     ShowStores();
 }

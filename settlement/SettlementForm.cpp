@@ -3,6 +3,7 @@
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Bills.h"
+#include "core/common/ColumnNames.h"
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
@@ -17,6 +18,8 @@
 #include "settlement/SheetStyle.h"
 
 #include <QEvent>
+#include <QFont>
+#include <QFontMetricsF>
 #include <QLabel>
 #include <QLineEdit>
 
@@ -31,14 +34,34 @@ constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
 constexpr int PersonWidth = 60;
 
-/// PRD_List.Num among the lot's columns, asked for where the stock line needs it.
-constexpr int DeliveredColumn = 6;
+const QString RenamingHint = u"双击，或在格子里按F2：修改收费名称"_s;
 
 /// A fee as calculated, then as it is shown: each writing runs the field's Change handler.
 void WriteFee(QLineEdit* fee, double amount)
 {
     WriteText(fee, NumberText(amount));
     FormatTextBox(fee, u"1"_s);
+}
+
+/// A caption beside a rate has room for six characters. A longer one is narrowed on the screen, down to
+/// half its width, and told whole by the tool tip where that is not enough; its size, which paper takes
+/// from it, stays.
+void ShowCaption(QLabel* label, const QString& caption)
+{
+    constexpr int Step = 5;
+    label->ensurePolished();
+    QFont font = label->font();
+    const auto fits = [&] {
+        return QFontMetricsF(font).horizontalAdvance(caption) <= label->contentsRect().width();
+    };
+    int stretch = QFont::Unstretched;
+    font.setStretch(stretch);
+    while (!fits() && stretch > QFont::Unstretched / 2)
+        font.setStretch(stretch -= Step);
+    if (label->font().stretch() != stretch)
+        label->setFont(font);
+    label->setToolTip(fits() ? RenamingHint : caption + u'\n' + RenamingHint);
+    label->setText(caption);
 }
 
 } // namespace
@@ -63,7 +86,7 @@ void SettlementForm::Wire(const SettlementControls& controls)
     OnPress(m_controls.cmdCancel, [this] { close(); });
     for (QLabel* caption : m_controls.lblFee) {
         caption->installEventFilter(this);
-        caption->setToolTip(u"双击，或在格子里按F2：修改收费名称"_s);
+        caption->setToolTip(RenamingHint);
     }
 }
 
@@ -139,7 +162,7 @@ void SettlementForm::ShowFeeCaption(const QString& key, const QString& caption)
     bool isNumber = false;
     const auto index = key.mid(1).toUInt(&isNumber);
     if (isNumber && index < m_controls.lblFee.size())
-        m_controls.lblFee[index]->setText(caption);
+        ShowCaption(m_controls.lblFee[index], caption);
 }
 
 bool SettlementForm::eventFilter(QObject* watched, QEvent* event)
@@ -183,31 +206,34 @@ void SettlementForm::LookUpLot(const QString& number)
         Chain().ReturnTo(c.txtPRDNo);
         return;
     }
-    const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s,
-        u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + (HasStockLine() ? u",Num"_s : QString()),
-        u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
+    const ColumnNames columns(u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s +
+                              (HasStockLine() ? u",Num"_s : QString()));
+    const RecordSet lot = Gateway().SelectRows(u"PRD_List"_s, columns.Text(),
+                                               u"(PRDNo="_s + Quoted(number) + u" Or PRDNo_S="_s +
+                                                   Quoted(number) + u") And bolCheckOut='0'"_s);
     if (lot.Eof()) {
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
         WriteText(c.txtPRDNo, QString());
         Chain().ReturnTo(c.txtPRDNo);
         return;
     }
-    m_lotId = lot.Text(0);
-    c.txtCustName->setText(lot.Text(1));
-    TakeStore(lot.Text(2));
-    c.txtPRDName->setText(lot.Text(3));
+    const auto text = [&](const QString& column) { return lot.Text(columns.At(column)); };
+    m_lotId = text(u"ID"_s);
+    c.txtCustName->setText(text(u"CustName"_s));
+    TakeStore(text(u"Store"_s));
+    c.txtPRDName->setText(text(u"PRDName"_s));
     // Last of the four: on the layout that clears itself with each new number, a lot found by its
     // shortcut loses owner, store and product here.
-    WriteText(c.txtPRDNo, lot.Text(5));
+    WriteText(c.txtPRDNo, text(u"PRDNo"_s));
 
-    const QString ofLot = u"ID='"_s + m_lotId + u"'"_s;
+    const QString ofLot = u"ID="_s + Quoted(m_lotId);
     const double pieces = SumField(u"Sal_List"_s, u"Num"_s, ofLot);
     const double unweighed = SumField(u"Sal_List"_s, u"Num"_s, ofLot + u" And Suttle=0"_s);
     const double weighed = SumField(u"Sal_List"_s, u"Suttle"_s, ofLot);
     const double amount = SumField(u"Sal_List"_s, u"Amount"_s, ofLot);
     c.txtNum->setText(NumberText(pieces));
-    c.txtSuttle->setText(NumberText(WeightShown(weighed, unweighed, NullToZero(lot.Fields(4).Value))));
+    const double perPiece = NullToZero(lot.Fields(columns.At(u"MPercent"_s)).Value);
+    c.txtSuttle->setText(NumberText(WeightShown(weighed, unweighed, perPiece)));
     c.txtAmount->setText(FormatAmount(amount, QString()));
     c.txtListNum->setText(QString::number(CountLotTickets(m_lotId)));
 
@@ -215,7 +241,7 @@ void SettlementForm::LookUpLot(const QString& number)
     // An advance equal to the last lot's changes no text, and the net must still be this lot's.
     RecalculateSettlement();
     if (HasStockLine()) {
-        LotStock stock = ReadStockChanges(m_lotId, NullToZero(lot.Fields(DeliveredColumn).Value));
+        LotStock stock = ReadStockChanges(m_lotId, NullToZero(lot.Fields(columns.At(u"Num"_s)).Value));
         stock.sold = pieces;
         ShowStock(stock);
     }

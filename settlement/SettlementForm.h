@@ -2,6 +2,7 @@
 
 #include "core/forms/FormWindow.h"
 #include "printing/Documents.h"
+#include "settlement/Settlement.h"
 #include "settlement/SettlementControls.h"
 
 struct LotStock;
@@ -63,7 +64,7 @@ private:
     void ChargeByUnit(const QString& feeId, const QLineEdit* rate, QLineEdit* fee);
 
     void SaveSettlement();
-    QString CheckOutValues(const QString& checkNo, const QString& checkDate) const;
+    Settlement SettlementOnSheet() const;
     void CloseLot(const QString& checkNo, const QString& today);
     void MakeRoomForNextLot();
 

@@ -4,10 +4,7 @@
 
 class QDateTime;
 
-// The rows of a settlement: statements that more than one routine of this folder sends.
-
-/// The thirty columns of CheckOut in their order, which are those of CheckOut_B too.
-extern const QString CheckOutColumns;
+// What a settlement asks of other tables, and does to its lot.
 
 /// True when a settlement has this number (without "NO."). @throws DatabaseError
 bool CheckNoExists(const QString& checkNo);

@@ -20,8 +20,8 @@ constexpr int FirstDescribeColumn = 3;
 void RenameColumn(const QString& report, int column, const QString& name)
 {
     const QString id = QString::number(column).rightJustified(2, u'0');
-    Gateway().UpdateRows(u"DFN_RptCol"_s, u"ColName='"_s + name + u"'"_s,
-                         u"RptName='"_s + report + u"' And ColID='"_s + id + u"'"_s);
+    Gateway().UpdateRows(u"DFN_RptCol"_s, u"ColName="_s + Quoted(name),
+                         u"RptName="_s + Quoted(report) + u" And ColID="_s + Quoted(id));
 }
 
 } // namespace
@@ -49,8 +49,8 @@ void frmSetFeeLabel::Save()
         if (caption.isEmpty())
             return;
         const QString key = Session::FeeLabelKey;
-        Gateway().UpdateRows(u"DFN_CheckOutLabel"_s, u"Caption='"_s + caption + u"'"_s,
-                             u"LabelID='"_s + key + u"'"_s);
+        Gateway().UpdateRows(u"DFN_CheckOutLabel"_s, u"Caption="_s + Quoted(caption),
+                             u"LabelID="_s + Quoted(key));
         const int fee = ToInt16(RequiredNumber(key.mid(1)));
         RenameColumn(u"RptCheckOutDetail"_s, fee + FirstDetailColumn, caption);
         RenameColumn(u"RptCheckOutDescribe"_s, fee + FirstDescribeColumn, caption);

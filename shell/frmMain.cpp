@@ -164,8 +164,8 @@ void frmMain::Choose(const MenuEntry& entry)
 void frmMain::OpenWindow(const MenuEntry& entry)
 {
     QString window = entry.window;
-    if (entry.control == u"menuCheckOut" && Session::CheckOutStyle == u"1")
-        window = u"frmCheckOutA"_s;
+    if (entry.control == u"menuCheckOut")
+        window = SettlementWindow();
     if (entry.control == u"menuPRDList")
         EnableToolbar({8, 12});
     if (entry.control == u"menuRptForegift")

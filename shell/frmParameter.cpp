@@ -290,10 +290,10 @@ void frmParameter::SaveDefine()
 {
     const QString orientation = ui->optPortrait->isChecked() ? u"1"_s : u"2"_s;
     Gateway().UpdateRows(u"Sys_Define"_s,
-                         u"PrintType='"_s + Flag(ui->chkPrintType) + u"',Orientation='"_s + orientation +
-                             u"',bolVerify='"_s + Flag(ui->chkVerify) + u"',Deadline='"_s +
-                             ui->txtDeadline->text() + u"',Control_Sale='"_s + Flag(ui->chkControl_Sale) +
-                             u"'"_s,
+                         u"PrintType="_s + Quoted(Flag(ui->chkPrintType)) + u",Orientation="_s +
+                             Quoted(orientation) + u",bolVerify="_s + Quoted(Flag(ui->chkVerify)) +
+                             u",Deadline="_s + Quoted(ui->txtDeadline->text()) + u",Control_Sale="_s +
+                             Quoted(Flag(ui->chkControl_Sale)),
                          QString());
 }
 
@@ -318,25 +318,26 @@ void frmParameter::SavePapers()
 {
     for (const PaperLine& paper : m_papers)
         Gateway().UpdateRows(u"DFN_Paper"_s,
-                             u"LeftArea='"_s + paper.left->text() + u"',TopArea='"_s + paper.top->text() +
-                                 u"',PrintStyle='"_s + QString::number(paper.style->currentIndex()) + u"'"_s,
-                             u"PaperID='"_s + paper.id->text() + u"'"_s);
+                             u"LeftArea="_s + Quoted(paper.left->text()) + u",TopArea="_s +
+                                 Quoted(paper.top->text()) + u",PrintStyle="_s +
+                                 Quoted(QString::number(paper.style->currentIndex())),
+                             u"PaperID="_s + Quoted(paper.id->text()));
 }
 
 void frmParameter::SaveRounds()
 {
-    Gateway().UpdateRows(u"DFN_Round"_s, u"bolRound='"_s + Flag(ui->chkRound_Sale) + u"'"_s,
+    Gateway().UpdateRows(u"DFN_Round"_s, u"bolRound="_s + Quoted(Flag(ui->chkRound_Sale)),
                          u"CountID='C01'"_s);
-    Gateway().UpdateRows(u"DFN_Round"_s, u"bolRound='"_s + Flag(ui->chkRound_CheckOut) + u"'"_s,
+    Gateway().UpdateRows(u"DFN_Round"_s, u"bolRound="_s + Quoted(Flag(ui->chkRound_CheckOut)),
                          u"CountID='C02'"_s);
 }
 
 void frmParameter::SaveFees()
 {
     Gateway().UpdateRows(u"DFN_CheckFee"_s,
-                         u"CountID='"_s + QString::number(ui->cmbCountID_0->currentIndex()) + u"'"_s,
+                         u"CountID="_s + Quoted(QString::number(ui->cmbCountID_0->currentIndex())),
                          u"FeeID='F01'"_s);
     Gateway().UpdateRows(u"DFN_CheckFee"_s,
-                         u"CountID='"_s + QString::number(ui->cmbCountID_1->currentIndex()) + u"'"_s,
+                         u"CountID="_s + Quoted(QString::number(ui->cmbCountID_1->currentIndex())),
                          u"FeeID='F02'"_s);
 }

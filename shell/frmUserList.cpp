@@ -8,6 +8,8 @@
 
 #include "ui_frmUserList.h"
 
+#include <QStringList>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -49,7 +51,7 @@ void frmUserList::LookUp()
     ClearUser();
     const RecordSet row =
         Gateway().SelectRows(u"User_List"_s, u"UserName,UserPWD,UserIP,bolIP,bolSearch,bolEdit"_s,
-                             u"UserID='"_s + ui->txtUserID->text().trimmed() + u"'"_s);
+                             u"UserID="_s + Quoted(ui->txtUserID->text().trimmed()));
     m_isFound = !row.Eof();
     if (m_isFound)
         ShowUser(row);
@@ -93,23 +95,21 @@ void frmUserList::Save()
     Guarded(u"新增或修改用户信息"_s, [this] {
         if (!IsComplete())
             return;
-        const QString id = ui->txtUserID->text().trimmed();
-        const QString name = ui->txtUserName->text().trimmed();
-        const QString password = ui->txtUserPWD->text().trimmed();
-        const QString address = ui->txtUserIP->text().trimmed();
-        const QString ip = FlagOf(ui->chkIP);
-        const QString search = FlagOf(ui->chkSearch);
-        const QString edit = FlagOf(ui->chkEdit);
+        const QString id = Quoted(ui->txtUserID->text().trimmed());
+        const QString name = Quoted(ui->txtUserName->text().trimmed());
+        const QString password = Quoted(ui->txtUserPWD->text().trimmed());
+        const QString address = Quoted(ui->txtUserIP->text().trimmed());
+        const QString ip = Quoted(FlagOf(ui->chkIP));
+        const QString search = Quoted(FlagOf(ui->chkSearch));
+        const QString edit = Quoted(FlagOf(ui->chkEdit));
         if (m_isFound) {
-            Gateway().UpdateRows(
-                u"User_List"_s,
-                u"UserName='%1',UserPWD='%2',UserIP='%3',bolIP='%4',bolSearch='%5',bolEdit='%6'"_s.arg(
-                    name, password, address, ip, search, edit),
-                u"UserID='"_s + id + u"'"_s);
+            Gateway().UpdateRows(u"User_List"_s,
+                                 u"UserName=%1,UserPWD=%2,UserIP=%3,bolIP=%4,bolSearch=%5,bolEdit=%6"_s.arg(
+                                     name, password, address, ip, search, edit),
+                                 u"UserID="_s + id);
         } else {
-            Gateway().InsertRow(
-                u"User_List"_s, u"UserID,UserName,UserPWD,UserIP,bolIP,bolSearch,bolEdit"_s,
-                u"'%1','%2','%3','%4','%5','%6','%7'"_s.arg(id, name, password, address, ip, search, edit));
+            Gateway().InsertRow(u"User_List"_s, u"UserID,UserName,UserPWD,UserIP,bolIP,bolSearch,bolEdit"_s,
+                                QStringList{id, name, password, address, ip, search, edit}.join(u','));
         }
         WriteText(ui->txtUserID, QString());
         ClearUser();

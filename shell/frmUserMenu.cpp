@@ -20,7 +20,7 @@ const QString UserPrefix = u"UID"_s;
 /// The entry that a line of the list stands for. @throws EndOfDataError when it has gone from the catalogue
 QString MenuNameOf(const QString& text)
 {
-    return Gateway().SelectRows(u"Menu_List"_s, u"MenuName"_s, u"MenuText='"_s + text + u"'"_s).Text(0);
+    return Gateway().SelectRows(u"Menu_List"_s, u"MenuName"_s, u"MenuText="_s + Quoted(text)).Text(0);
 }
 
 } // namespace
@@ -94,14 +94,13 @@ void frmUserMenu::ShowUserRights(const QString& user)
 void frmUserMenu::Save()
 {
     GuardedUnlogged([this] {
-        Gateway().DeleteRows(u"User_Menu"_s, u"UserID='"_s + m_user + u"'"_s);
+        Gateway().DeleteRows(u"User_Menu"_s, u"UserID="_s + Quoted(m_user));
         for (int row = 0; row < ui->lstMenuList->count(); ++row) {
             const QListWidgetItem* line = ui->lstMenuList->item(row);
             if (line->checkState() != Qt::Checked)
                 continue;
             const QString name = MenuNameOf(line->text());
-            Gateway().InsertRow(u"User_Menu"_s, u"UserID,MenuName"_s,
-                                u"'"_s + m_user + u"','"_s + name + u"'"_s);
+            Gateway().InsertRow(u"User_Menu"_s, u"UserID,MenuName"_s, Quoted(m_user) + u',' + Quoted(name));
         }
         if (!m_user.isEmpty())
             ShowState(u"（已保存）"_s);

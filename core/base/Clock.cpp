@@ -24,7 +24,16 @@ QString FormatTime(const QTime& time)
     return time.toString(QStringLiteral("HH:mm:ss"));
 }
 
+namespace {
+const QString LongDateFormat = QStringLiteral("yyyy年MM月dd日");
+} // namespace
+
 QString LongDate(const QDate& date)
 {
-    return date.toString(QStringLiteral("yyyy年MM月dd日"));
+    return date.toString(LongDateFormat);
+}
+
+QDate ReadLongDate(const QString& text)
+{
+    return QDate::fromString(text, LongDateFormat);
 }

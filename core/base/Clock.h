@@ -21,3 +21,6 @@ QString FormatDate(const QDate& date);
 QString FormatTime(const QTime& time);
 /// "2026年03月09日": a date as documents and screens show it.
 QString LongDate(const QDate& date);
+
+/// The day of such a text; an invalid day for any other.
+QDate ReadLongDate(const QString& text);

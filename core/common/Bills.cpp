@@ -29,8 +29,8 @@ QString NextBillNo(const QString& series)
 {
     const RecordSet counter =
         Gateway().SelectRows(u"Count_Bill"_s, u"CurrNumber"_s,
-                             u"CurrDate='"_s + FormatDate(Clock::Now().date()) + u"' And TID='"_s + series +
-                                 u"' And UID='"_s + Session::CurrentUserID + u"'"_s);
+                             u"CurrDate="_s + Quoted(FormatDate(Clock::Now().date())) + u" And TID="_s +
+                                 Quoted(series) + u" And UID="_s + Quoted(Session::CurrentUserID));
     const double serial = counter.Eof() ? 1 : NullToZero(counter.Fields(0).Value) + 1;
     return BuildBillNo(NumberText(serial));
 }
@@ -54,10 +54,10 @@ bool MayEditBill(const QString& number)
 void BumpBillCounter(const QString& uid, const QString& tid, const QString& currDate)
 {
     const QString where =
-        u"UID='"_s + uid + u"' And TID='"_s + tid + u"' And CurrDate='"_s + currDate + u"'"_s;
+        u"UID="_s + Quoted(uid) + u" And TID="_s + Quoted(tid) + u" And CurrDate="_s + Quoted(currDate);
     if (Gateway().SelectRows(u"Count_Bill"_s, u"CurrNumber"_s, where).Eof()) {
         Gateway().InsertRow(u"Count_Bill"_s, u"TID,UID,CurrDate,CurrNumber"_s,
-                            u"'"_s + tid + u"','"_s + uid + u"','"_s + currDate + u"',1"_s);
+                            Quoted(tid) + u',' + Quoted(uid) + u',' + Quoted(currDate) + u",1"_s);
     } else {
         Gateway().UpdateRows(u"Count_Bill"_s, u"CurrNumber=CurrNumber+1"_s, where);
     }

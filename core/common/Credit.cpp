@@ -10,12 +10,12 @@ using namespace Qt::StringLiterals;
 bool CheckCreditLimit(const QString& buyer, double newAmount, double oldAmount)
 {
     const RecordSet limit = Gateway().SelectRows(u"Cust_List"_s, u"CreditMoney"_s,
-                                                 u"CustName='"_s + buyer + u"' And bolControl='1'"_s);
+                                                 u"CustName="_s + Quoted(buyer) + u" And bolControl='1'"_s);
     if (limit.Eof())
         return true;
     const double creditMoney = NullToZero(limit.Fields(0).Value);
     const double used = SumField(u"Sal_List"_s, u"TotalAmount"_s,
-                                 u"Vendee='"_s + buyer + u"' And SaleType='1' And bolReturn='0'"_s);
+                                 u"Vendee="_s + Quoted(buyer) + u" And SaleType='1' And bolReturn='0'"_s);
     const double need = Settled(used - oldAmount + newAmount);
     if (creditMoney >= need)
         return true;

@@ -3,6 +3,8 @@
 #include "core/base/Clock.h"
 #include "core/gateway/DataGateway.h"
 
+#include <QStringList>
+
 using namespace Qt::StringLiterals;
 
 void LogError(const QString& user, const QString& description, const QString& source)
@@ -10,8 +12,9 @@ void LogError(const QString& user, const QString& description, const QString& so
     const QDateTime now = Clock::Now();
     try {
         Gateway().InsertRow(u"ErrInfo"_s, u"ErrUserName,ErrDescription,ErrSource,ErrDate,ErrTime"_s,
-                            u"'"_s + user + u"','"_s + description + u"','"_s + source + u"','"_s +
-                                FormatDate(now.date()) + u"','"_s + FormatTime(now.time()) + u"'"_s);
+                            QStringList{Quoted(user), Quoted(description), Quoted(source),
+                                        Quoted(FormatDate(now.date())), Quoted(FormatTime(now.time()))}
+                                .join(u','));
     } catch (const RunTimeError&) {
         // The user has already seen the failure that was to be logged; a second one would only hide it.
     }

@@ -71,33 +71,33 @@ std::int16_t GetOrientation()
 
 QString GetUserField(const QString& whereColumn, const QString& value, const QString& field)
 {
-    return FirstText(u"User_List"_s, field, whereColumn + u"='"_s + value + u"'"_s);
+    return FirstText(u"User_List"_s, field, whereColumn + u'=' + Quoted(value));
 }
 
 bool HasMenuRight(const QString& user, const QString& menuName)
 {
     return HasRow(u"User_Menu"_s, u"MenuName"_s,
-                  u"UserID='"_s + user + u"' And MenuName='"_s + menuName + u"'"_s);
+                  u"UserID="_s + Quoted(user) + u" And MenuName="_s + Quoted(menuName));
 }
 
 bool UserSearchAll(const QString& user)
 {
-    return IsNotZero(u"User_List"_s, u"bolSearch"_s, u"UserID='"_s + user + u"'"_s);
+    return IsNotZero(u"User_List"_s, u"bolSearch"_s, u"UserID="_s + Quoted(user));
 }
 
 bool UserMayEdit(const QString& user)
 {
-    return IsNotZero(u"User_List"_s, u"bolEdit"_s, u"UserID='"_s + user + u"'"_s);
+    return IsNotZero(u"User_List"_s, u"bolEdit"_s, u"UserID="_s + Quoted(user));
 }
 
 bool UserMustMatchAddress(const QString& user)
 {
-    return FirstText(u"User_List"_s, u"bolIP"_s, u"UserID='"_s + user + u"'"_s) == u"1";
+    return FirstText(u"User_List"_s, u"bolIP"_s, u"UserID="_s + Quoted(user)) == u"1";
 }
 
 QString GetReportTitle(const QString& reportName)
 {
-    return FirstText(u"DFN_RptTitle"_s, u"RptTitle"_s, u"RptName='"_s + reportName + u"'"_s);
+    return FirstText(u"DFN_RptTitle"_s, u"RptTitle"_s, u"RptName="_s + Quoted(reportName));
 }
 
 QVariant GetReportFont(const QString& field)
@@ -108,67 +108,69 @@ QVariant GetReportFont(const QString& field)
 
 bool LotHasDeposit(const QString& lotId)
 {
-    return IsNotZero(u"PRD_List"_s, u"bolPack"_s, u"ID='"_s + lotId + u"'"_s);
+    return IsNotZero(u"PRD_List"_s, u"bolPack"_s, u"ID="_s + Quoted(lotId));
 }
 
 bool LotVerifyMatches(const QString& prdNo, const QString& code)
 {
     return HasRow(u"PRD_List"_s, u"PRDNo"_s,
-                  u"PRDNo='"_s + prdNo + u"' And VerifyID='"_s + code + u"' And bolCheckOut='0'"_s);
+                  u"PRDNo="_s + Quoted(prdNo) + u" And VerifyID="_s + Quoted(code) +
+                      u" And bolCheckOut='0'"_s);
 }
 
 bool LotIsFixed(const QString& prdNo)
 {
-    return FirstText(u"PRD_List"_s, u"bolFixed"_s, u"PRDNo='"_s + prdNo + u"' And bolCheckOut='0'"_s) == u"1";
+    return FirstText(u"PRD_List"_s, u"bolFixed"_s, u"PRDNo="_s + Quoted(prdNo) + u" And bolCheckOut='0'"_s) ==
+           u"1";
 }
 
 bool LotMatches(const QString& prdNo, const QString& lotId)
 {
-    return HasRow(u"PRD_List"_s, u"PRDNo"_s, u"PRDNo='"_s + prdNo + u"' And ID='"_s + lotId + u"'"_s);
+    return HasRow(u"PRD_List"_s, u"PRDNo"_s, u"PRDNo="_s + Quoted(prdNo) + u" And ID="_s + Quoted(lotId));
 }
 
 bool StoreExists(const QString& store)
 {
-    return HasRow(u"Store"_s, u"Store"_s, u"Store='"_s + store + u"'"_s);
+    return HasRow(u"Store"_s, u"Store"_s, u"Store="_s + Quoted(store));
 }
 
 bool SalesExists(const QString& salesId)
 {
-    return salesId.isEmpty() || HasRow(u"Sales"_s, u"SalesID"_s, u"SalesID='"_s + salesId + u"'"_s);
+    return salesId.isEmpty() || HasRow(u"Sales"_s, u"SalesID"_s, u"SalesID="_s + Quoted(salesId));
 }
 
 QString GetSalesName(const QString& salesId)
 {
     if (salesId.isEmpty())
         return QString();
-    return FirstText(u"Sales"_s, u"SalesName"_s, u"SalesID='"_s + salesId + u"'"_s);
+    return FirstText(u"Sales"_s, u"SalesName"_s, u"SalesID="_s + Quoted(salesId));
 }
 
 double GetPaperLeft(const QString& paperId)
 {
-    const auto value = FirstValue(u"DFN_Paper"_s, u"LeftArea"_s, u"PaperID='"_s + paperId + u"'"_s);
+    const auto value = FirstValue(u"DFN_Paper"_s, u"LeftArea"_s, u"PaperID="_s + Quoted(paperId));
     return value ? NullToZero(value->Value) : 0;
 }
 
 double GetPaperTop(const QString& paperId)
 {
-    const auto value = FirstValue(u"DFN_Paper"_s, u"TopArea"_s, u"PaperID='"_s + paperId + u"'"_s);
+    const auto value = FirstValue(u"DFN_Paper"_s, u"TopArea"_s, u"PaperID="_s + Quoted(paperId));
     return value ? NullToZero(value->Value) : 0;
 }
 
 QString GetPrintStyle(const QString& paperId)
 {
-    return FirstText(u"DFN_Paper"_s, u"PrintStyle"_s, u"PaperID='"_s + paperId + u"'"_s, u"0"_s);
+    return FirstText(u"DFN_Paper"_s, u"PrintStyle"_s, u"PaperID="_s + Quoted(paperId), u"0"_s);
 }
 
 bool IsRoundOn(const QString& countId)
 {
-    return IsNotZero(u"DFN_Round"_s, u"bolRound"_s, u"CountID='"_s + countId + u"'"_s);
+    return IsNotZero(u"DFN_Round"_s, u"bolRound"_s, u"CountID="_s + Quoted(countId));
 }
 
 QString GetFeeCountID(const QString& feeId)
 {
-    return FirstText(u"DFN_CheckFee"_s, u"CountID"_s, u"FeeID='"_s + feeId + u"'"_s, u"0"_s);
+    return FirstText(u"DFN_CheckFee"_s, u"CountID"_s, u"FeeID="_s + Quoted(feeId), u"0"_s);
 }
 
 double NullToZero(const QVariant& value)

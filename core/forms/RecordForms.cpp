@@ -2,6 +2,7 @@
 
 #include "core/common/Messages.h"
 #include "core/forms/WindowRegistry.h"
+#include "core/session/Session.h"
 
 #include <QHash>
 #include <QScopeGuard>
@@ -17,6 +18,11 @@ QString RecordFormOf(const QString& menuKey)
         {u"FeeType"_s, u"frmFeeType"_s},
     };
     return forms.value(menuKey);
+}
+
+QString SettlementWindow()
+{
+    return Session::CheckOutStyle == u"1" ? u"frmCheckOutA"_s : u"frmCheckOut"_s;
 }
 
 QWidget* MainFrame()

@@ -9,6 +9,9 @@ class QWidget;
 /// list has none.
 QString RecordFormOf(const QString& menuKey);
 
+/// The settlement window of this stall, one of the two layouts, as Session::CheckOutStyle says.
+QString SettlementWindow();
+
 /// The main window's widget, owner of every function window; nullptr before it is loaded.
 QWidget* MainFrame();
 

@@ -9,6 +9,7 @@
 #include "core/session/Session.h"
 
 #include <QScopeGuard>
+#include <QStringList>
 
 using namespace Qt::StringLiterals;
 
@@ -37,8 +38,9 @@ void StartSession()
     const QDateTime now = Clock::Now();
     Session::SessionCheckID = now.toString(u"HHmmss"_s);
     Gateway().InsertRow(u"User_Status"_s, u"UserID,CheckID,LogDate,LogTime"_s,
-                        u"'"_s + Session::CurrentUserID + u"','"_s + Session::SessionCheckID + u"','"_s +
-                            FormatDate(now.date()) + u"','"_s + FormatTime(now.time()) + u"'"_s);
+                        QStringList{Quoted(Session::CurrentUserID), Quoted(Session::SessionCheckID),
+                                    Quoted(FormatDate(now.date())), Quoted(FormatTime(now.time()))}
+                            .join(u','));
     const QString config = ConfigIniPath();
     if (Session::ClientFlag == u"1")
         RememberUser(config);
@@ -56,15 +58,15 @@ void StartSession()
 bool CheckSession()
 {
     const RecordSet status =
-        Gateway().SelectRows(u"User_Status"_s, u"CheckID"_s, u"UserID='"_s + Session::CurrentUserID + u"'"_s);
+        Gateway().SelectRows(u"User_Status"_s, u"CheckID"_s, u"UserID="_s + Quoted(Session::CurrentUserID));
     return !status.Eof() && status.Text(0).compare(Session::SessionCheckID, Qt::CaseInsensitive) == 0;
 }
 
 void EndSession()
 {
     const auto close = qScopeGuard([] { Gateway().CloseConnection(); });
-    Gateway().DeleteRows(u"User_Status"_s, u"UserID='"_s + Session::CurrentUserID + u"' And CheckID='"_s +
-                                               Session::SessionCheckID + u"'"_s);
+    Gateway().DeleteRows(u"User_Status"_s, u"UserID="_s + Quoted(Session::CurrentUserID) +
+                                               u" And CheckID="_s + Quoted(Session::SessionCheckID));
 }
 
 bool IsOutOfStepWithServer()

@@ -300,6 +300,16 @@ TEST_F(Registry, AListKnowsItsEditWindow)
     EXPECT_EQ(RecordFormOf(QString()), QString());
 }
 
+TEST_F(Registry, TheStallsSettlementIsTheLayoutOfItsStyle)
+{
+    for (const QString& style : {QString(), u"0"_s, u"2"_s, u"A"_s}) {
+        Session::CheckOutStyle = style;
+        EXPECT_EQ(SettlementWindow(), u"frmCheckOut"_s) << style.toStdString();
+    }
+    Session::CheckOutStyle = u"1"_s;
+    EXPECT_EQ(SettlementWindow(), u"frmCheckOutA"_s);
+}
+
 TEST_F(Registry, ARecordIsLoadedByItsKeyBeforeItsWindowIsSeen)
 {
     RegisterProbe(u"frmSales"_s, [](ProbeForm& form) {

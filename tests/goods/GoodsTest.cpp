@@ -1,5 +1,6 @@
 #include "tests/goods/GoodsTest.h"
 
+#include "core/forms/Fields.h"
 #include "core/forms/ListGrid.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -8,6 +9,8 @@
 #include "goods/frmSearchPRD.h"
 #include "goods/frmTemp.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -111,8 +114,10 @@ void GoodsTest::TypeNewLot()
 
 void GoodsTest::Put(const QString& control, const QString& text)
 {
-    Find(u"frmPRDList"_s, control)->setText(text);
+    FocusAndSelect(Find(u"frmPRDList"_s, control));
     Settle();
+    QApplication::clipboard()->setText(text);
+    Press(Qt::Key_V, Qt::ControlModifier);
 }
 
 ListGrid* GoodsTest::List()

@@ -37,7 +37,7 @@ protected:
     void Mend();
     /// Enter on each of the controls in turn.
     void Pass(const QStringList& controls);
-    /// Puts a text into a field of frmPRDList as if pasted.
+    /// Goes to a field of frmPRDList and pastes over its text.
     void Put(const QString& control, const QString& text);
 
     QString Field(const QString& control) { return TextOf(QStringLiteral("frmPRDList"), control); }

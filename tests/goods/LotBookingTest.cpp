@@ -16,7 +16,7 @@ protected:
         OpenRegistration();
     }
 
-    /// The least that can be saved, without the keyboard.
+    /// The least that can be saved.
     void PutNewLot()
     {
         Enter(u"txtPID"_s, u"A"_s);
@@ -221,16 +221,24 @@ TEST_F(LotBooking, AGroupedNumberAndBlanksAroundTextsAreTakenOff)
               (std::vector<QStringList>{{u"1200.500000"_s, u"1200.500000"_s, u"王 老板"_s}}));
 }
 
-TEST_F(LotBooking, SavedByTheButtonRightAfterTypingTheSortTheLotHasNoNumber)
+// A click on the button leaves no field: neither the sort nor the place is looked up.
+TEST_F(LotBooking, SavedByTheButtonRightAfterTypingOverTheSortTheLotKeepsTheNumberOfTheFirst)
 {
-    Type(u"A"_s);
-    Put(u"txtNum"_s, u"1"_s);
-    Put(u"txtStore"_s, u"没有的库"_s);
-    Put(u"txtCustName"_s, u"王老板"_s);
+    PutNewLot();
+    Put(u"txtPID"_s, u"B"_s);
     Click(Find<QWidget>(u"frmPRDList"_s, u"cmdSubmit"_s));
-    EXPECT_EQ(Db().Rows(u"SELECT PID,CustID,PRDNo,Store FROM PRD_List"_s),
-              (std::vector<QStringList>{{u"A"_s, QString(), QString(), u"没有的库"_s}}));
-    EXPECT_EQ(Value(u"SELECT CurrNumber FROM PRD_Sort WHERE SortID='A'"_s), u"5"_s);
+    EXPECT_EQ(Db().Rows(u"SELECT PID,CustID,PRDNo,PRDName FROM PRD_List"_s),
+              (std::vector<QStringList>{{u"B"_s, u"005"_s, u"A-005"_s, u"苹果"_s}}));
+    EXPECT_EQ(Value(u"SELECT CurrNumber FROM PRD_Sort WHERE SortID='A'"_s), u"4"_s);
+    EXPECT_EQ(Value(u"SELECT CurrNumber FROM PRD_Sort WHERE SortID='B'"_s), u"999"_s);
+}
+
+TEST_F(LotBooking, SavedByTheButtonRightAfterTypingThePlaceItIsStoredAsTyped)
+{
+    PutNewLot();
+    Put(u"txtStore"_s, u"没有的库"_s);
+    Click(Find<QWidget>(u"frmPRDList"_s, u"cmdSubmit"_s));
+    EXPECT_EQ(Value(u"SELECT Store FROM PRD_List"_s), u"没有的库"_s);
 }
 
 TEST_F(LotBooking, TheDaysCounterIsReadNotTheUsers)

@@ -3,8 +3,6 @@
 #include <QComboBox>
 #include <QLabel>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -222,13 +220,9 @@ protected:
     /// Fields of a lot but for its number.
     void FillTheRest()
     {
-        for (const auto& [field, text] : {std::pair{u"txtNum"_s, u"1"_s},
-                                          {u"txtStore"_s, u"二号库"_s},
-                                          {u"txtCustName"_s, u"孙老板"_s}}) {
-            Click(Find(u"frmPRDList"_s, field));
-            Find(u"frmPRDList"_s, field)->selectAll();
-            Type(text);
-        }
+        Put(u"txtNum"_s, u"1"_s);
+        Put(u"txtStore"_s, u"二号库"_s);
+        Put(u"txtCustName"_s, u"孙老板"_s);
     }
 
     void ExpectNoNumber()

@@ -215,7 +215,8 @@ TEST_F(FeeLabel, AnEmptyNameDoesNothingAndTheWindowStays)
 TEST_F(FeeLabel, TheSettlementKeepsItsPlaceAsTheOpenFunctionAndItsFigures)
 {
     OpenSettlement(u"frmCheckOut"_s);
-    Find(u"frmCheckOut"_s, u"txtLChillPrice"_s)->setText(u"12.5"_s);
+    FocusAndSelect(Find(u"frmCheckOut"_s, u"txtLChillPrice"_s));
+    Type(u"12.5"_s);
     Rename(u"frmCheckOut"_s, u"txtLChillPrice"_s, [] { Press(Qt::Key_Return); });
     EXPECT_FALSE(Session::WindowSlotFree);
     EXPECT_EQ(TextOf(u"frmCheckOut"_s, u"txtLChillPrice"_s), u"12.5"_s);

@@ -99,6 +99,34 @@ TEST_P(SettlementLoad, FeeCaptionsComeFromTheTableAndTheAdvancesLineKeepsItsOwn)
                                      u"卫生费"_s, u"代扣税"_s, u"过磅费"_s, u"邮电费"_s, u"其  他"_s}));
 }
 
+TEST_P(SettlementLoad, ALongFeeCaptionIsNarrowedIntoItsPlaceAndAShortOneIsAsItWas)
+{
+    constexpr int Sizes[] = {6, 7, 9, 11};
+    for (const int size : Sizes) {
+        Db().Run(u"UPDATE DFN_CheckOutLabel SET Caption='%1' WHERE LabelID='L0'"_s.arg(QString(size, u'费')));
+        OpenLayout();
+        const auto* label = Find<QLabel>(Layout(), u"lblFee_0"_s); // beside a rate
+        const auto* usual = Find<QLabel>(Layout(), u"lblFee_1"_s);
+        EXPECT_EQ(label->text(), QString(size, u'费'));
+        EXPECT_LE(label->fontMetrics().horizontalAdvance(label->text()), label->width()) << size;
+        EXPECT_EQ(label->font().pointSizeF(), usual->font().pointSizeF());
+        EXPECT_EQ(label->font().stretch() < 100, size > 6) << size;
+        EXPECT_EQ(label->toolTip(), usual->toolTip());
+        Press(Qt::Key_C, Qt::AltModifier);
+    }
+}
+
+TEST_P(SettlementLoad, ACaptionTooLongForHalfItsWidthIsToldWholeByTheToolTip)
+{
+    const QString caption(40, u'费');
+    Db().Run(u"UPDATE DFN_CheckOutLabel SET Caption='%1' WHERE LabelID='L0'"_s.arg(caption));
+    OpenLayout();
+    const auto* label = Find<QLabel>(Layout(), u"lblFee_0"_s);
+    EXPECT_EQ(label->font().stretch(), 50);
+    EXPECT_TRUE(label->toolTip().startsWith(caption));
+    EXPECT_EQ(label->text(), caption);
+}
+
 TEST_P(SettlementLoad, LabelsThatNoLineHasAreIgnored)
 {
     Db().Run(

@@ -430,10 +430,10 @@ TEST_F(StoreLayout, EachChangeOfTheNumberClearsAllButNumberDateBillAndPayer)
     AddTicket(40, 0, 1000);
     OpenLayout(u"frmCheckOutA"_s);
     FillForSaving();
-    Box(u"txtPer_LManage"_s)->setText(u"5"_s);
     Type(u"李会计"_s);
-    Box(u"txtPayUser"_s)->setText(u"赵出纳"_s);
-    Box(u"txtCustSign"_s)->setText(u"王"_s);
+    TypeInto(u"txtPer_LManage"_s, u"5"_s);
+    TypeInto(u"txtPayUser"_s, u"赵出纳"_s);
+    TypeInto(u"txtCustSign"_s, u"王"_s);
     TypeInto(u"txtPRDNo"_s, u"B"_s);
 
     const QStringList kept{u"txtPRDNo"_s, u"txtCheckDate"_s, u"txtCheckNo"_s, u"txtPayUser"_s};

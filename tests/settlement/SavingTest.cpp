@@ -213,7 +213,7 @@ TEST_P(SettlementSave, NamesMayStayBlankAndTheReceiversSignIsNeverSaved)
     AddTicket(40, 0, 1000);
     OpenLayout();
     FillForSaving();
-    Box(u"txtCustSign"_s)->setText(u"王"_s);
+    TypeInto(u"txtCustSign"_s, u"王"_s);
     Save();
     EXPECT_EQ(Db().Rows(u"SELECT CheckUser,PayUser,Receiver FROM CheckOut"_s),
               (std::vector<QStringList>{{QString(), QString(), u"01"_s}}));
@@ -337,7 +337,7 @@ TEST_P(SettlementSave, AFeeThatNoColumnHoldsIsAnErrorWithNothingWritten)
     AddTicket(40, 0, 1000);
     OpenLayout();
     FillForSaving();
-    Box(u"txtLOtherPrice"_s)->setText(u"-1e14"_s);
+    PasteInto(u"txtLOtherPrice"_s, u"-1e14"_s);
     boxes.Expect(u"溢出"_s);
     Save();
     EXPECT_EQ(Count(u"CheckOut"_s), 0);
@@ -350,7 +350,7 @@ TEST_P(SettlementSave, AQuoteOrALastBackslashInANameBreaksTheStatementAndKeepsTh
     OpenLayout();
     FillForSaving();
     for (const QString& name : {u"O'Neil"_s, u"李\\"_s}) {
-        Box(u"txtCheckUser"_s)->setText(name);
+        TypeInto(u"txtCheckUser"_s, name);
         boxes.ExpectContaining(u"SQL syntax"_s);
         Save();
         EXPECT_EQ(Text(u"txtCheckUser"_s), name);
@@ -358,7 +358,7 @@ TEST_P(SettlementSave, AQuoteOrALastBackslashInANameBreaksTheStatementAndKeepsTh
     }
     EXPECT_EQ(Count(u"CheckOut"_s), 0);
     EXPECT_EQ(Count(u"ErrInfo"_s), 0); // the server's words carry quotes themselves
-    Box(u"txtCheckUser"_s)->setText(QString(60, u'李'));
+    TypeInto(u"txtCheckUser"_s, QString(60, u'李'));
     Save();
     EXPECT_EQ(Value(u"SELECT CheckUser FROM CheckOut"_s), QString(60, u'李'));
 }

@@ -4,6 +4,8 @@
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
@@ -78,6 +80,13 @@ void SettlementWindow::TypeInto(const QString& control, const QString& text)
 {
     GoTo(control);
     Type(text);
+}
+
+void SettlementWindow::PasteInto(const QString& control, const QString& text)
+{
+    GoTo(control);
+    QApplication::clipboard()->setText(text);
+    Press(Qt::Key_V, Qt::ControlModifier);
 }
 
 void SettlementWindow::WalkToNames()

@@ -31,6 +31,8 @@ protected:
     void GoTo(const QString& control);
     /// Goes to a control and types over its text.
     void TypeInto(const QString& control, const QString& text);
+    /// The same from the clipboard: the whole text is one change.
+    void PasteInto(const QString& control, const QString& text);
     /// From the first rate by Enter to the first name: each fee left blank becomes 0.0.
     void WalkToNames();
     /// EnterLot, WalkToNames.

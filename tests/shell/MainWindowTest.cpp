@@ -3,6 +3,8 @@
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "printing/PrintQueue.h"
+#include "settlement/frmCheckOut.h"
+#include "settlement/frmCheckOutA.h"
 #include "shell/MenuTable.h"
 #include "tests/support/WindowTest.h"
 
@@ -263,6 +265,22 @@ TEST_F(MainWindow, DepositReturnReportSwitchesDeleteOn)
     boxes.Expect(u"此功能在本版本中尚未提供。"_s);
     Choose(u"menuRptForegift"_s);
     EXPECT_EQ(EnabledButtons(), (QStringList{u"mnuDelete"_s, u"mnuHelp"_s, u"mnuExit"_s}));
+}
+
+TEST_F(MainWindow, SettlingOpensTheLayoutOfTheStallsStyle)
+{
+    Windows().Register(u"frmCheckOut"_s, [](QWidget* owner) { return new frmCheckOut(owner); });
+    Windows().Register(u"frmCheckOutA"_s, [](QWidget* owner) { return new frmCheckOutA(owner); });
+    OpenFrame();
+    for (const QString& style : {u"0"_s, u"1"_s}) {
+        Session::CheckOutStyle = style;
+        Choose(u"menuCheckOut"_s);
+        Form* open = Windows().Find(style == u"1" ? u"frmCheckOutA"_s : u"frmCheckOut"_s);
+        ASSERT_NE(open, nullptr) << style.toStdString();
+        EXPECT_EQ(Windows().Find(style == u"1" ? u"frmCheckOut"_s : u"frmCheckOutA"_s), nullptr);
+        open->Widget()->close();
+        Settle();
+    }
 }
 
 TEST_F(MainWindow, AWindowOfALaterReleaseSaysSoAndTakesNothing)
