@@ -3,9 +3,9 @@
 #include "core/forms/ListGrid.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
-#include "goods/frmDataList.h"
 #include "goods/frmPRDList.h"
 #include "goods/frmSearchPRD.h"
+#include "lists/frmDataList.h"
 #include "printing/frmTemp.h"
 
 #include <QLabel>

@@ -1,4 +1,4 @@
-#include "goods/ListTables.h"
+#include "lists/ListTables.h"
 
 #include <QHash>
 

@@ -1,4 +1,4 @@
-#include "goods/frmDataList.h"
+#include "lists/frmDataList.h"
 
 #include "core/base/Numbers.h"
 #include "core/common/Formats.h"
@@ -7,8 +7,8 @@
 #include "core/forms/RecordForms.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
-#include "goods/ListTables.h"
 #include "goods/LotStock.h"
+#include "lists/ListTables.h"
 #include "ui_frmDataList.h"
 
 #include <QContextMenuEvent>
