@@ -5,6 +5,7 @@
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
+#include "core/forms/MenuTable.h"
 #include "core/forms/RecordForms.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
@@ -12,8 +13,8 @@
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
 #include "printing/LotSlip.h"
-#include "shell/MenuTable.h"
 #include "shell/ToolbarIcons.h"
+#include "shell/ToolbarTable.h"
 #include "shell/WorkArea.h"
 
 #include <QAction>

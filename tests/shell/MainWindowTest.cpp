@@ -1,9 +1,10 @@
 #include "app/StartProgram.h"
 #include "core/forms/FormWindow.h"
+#include "core/forms/MenuTable.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "printing/PrintQueue.h"
-#include "shell/MenuTable.h"
+#include "shell/ToolbarTable.h"
 #include "tests/support/WindowTest.h"
 
 #include <QAction>

@@ -20,12 +20,3 @@ struct TopMenu {
 
 /// The menu bar from left to right.
 const std::vector<TopMenu>& MenuBar();
-
-/// One button of the toolbar, from left to right; separators stand between them.
-struct ToolbarButton {
-    QString key;
-    QString toolTip;
-    QString shortcut;
-};
-
-const std::vector<ToolbarButton>& Toolbar();
