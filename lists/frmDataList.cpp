@@ -4,7 +4,7 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "goods/LotStock.h"

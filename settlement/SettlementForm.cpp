@@ -8,7 +8,7 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"

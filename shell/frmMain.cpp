@@ -6,7 +6,7 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/MenuTable.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"

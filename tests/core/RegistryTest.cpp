@@ -1,7 +1,7 @@
 #include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 #include "core/forms/Fields.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/session/Session.h"
 #include "tests/core/ProbeForm.h"
 #include "tests/support/WindowTest.h"

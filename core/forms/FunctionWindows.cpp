@@ -1,4 +1,4 @@
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 
 #include "core/common/Messages.h"
 #include "core/forms/WindowRegistry.h"
