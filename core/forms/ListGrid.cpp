@@ -13,7 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 constexpr double WidestColumn = 32767; // twips: more than the longest paper
-}
+
+/// The column of the current cell. From a cell that is hidden the arrow keys would move on without taking
+/// the selection along: another row would be marked than the one that is acted on.
+constexpr int KeyColumn = 1;
+} // namespace
 
 ListGrid::ListGrid(QWidget* parent) : QTreeWidget(parent)
 {
@@ -81,12 +85,19 @@ QString ListGrid::SubItem(int row, int index) const
 
 int ListGrid::SelectedRow() const
 {
-    return currentItem() ? indexOfTopLevelItem(currentItem()) : -1;
+    const QList<QTreeWidgetItem*> selected = selectedItems();
+    return selected.isEmpty() ? -1 : indexOfTopLevelItem(selected[0]);
 }
 
 void ListGrid::SelectRow(int row)
 {
-    setCurrentItem(topLevelItem(row));
+    setCurrentItem(topLevelItem(row), KeyColumn);
+}
+
+void ListGrid::MakeCurrent(int row)
+{
+    clearSelection();
+    setCurrentItem(topLevelItem(row), KeyColumn, QItemSelectionModel::NoUpdate);
 }
 
 int ListGrid::ColumnWidthTwips(int index) const
@@ -100,6 +111,11 @@ void ListGrid::keyPressEvent(QKeyEvent* event)
 {
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && SelectedRow() >= 0) {
         emit RowChosen(SelectedRow());
+        return;
+    }
+    const bool isArrow = event->key() == Qt::Key_Up || event->key() == Qt::Key_Down;
+    if (isArrow && SelectedRow() < 0 && currentItem()) {
+        setCurrentItem(currentItem(), KeyColumn);
         return;
     }
     QTreeWidget::keyPressEvent(event);

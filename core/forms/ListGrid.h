@@ -32,9 +32,11 @@ public:
     /// there is none.
     QString SubItem(int row, int index) const;
 
-    /// The selected row, -1 without one.
+    /// The selected row, -1 when none is, even if one is current.
     int SelectedRow() const;
     void SelectRow(int row);
+    /// The row that the next arrow key selects, with nothing selected until then.
+    void MakeCurrent(int row);
     /// Sub-item 1 of the selected row, "" without one.
     QString SelectedKey() const { return SubItem(SelectedRow(), 1); }
 
