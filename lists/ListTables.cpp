@@ -1,6 +1,12 @@
 #include "lists/ListTables.h"
 
-#include <QHash>
+#include "core/common/Formats.h"
+#include "core/forms/FunctionWindows.h"
+#include "core/gateway/DataGateway.h"
+#include "goods/LotList.h"
+#include "printing/LotSlip.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -8,101 +14,120 @@ namespace {
 
 using Kind = ListColumn::Kind;
 
-// Widths in twips, for the list's font: a Chinese character takes 225, a Latin one 125, and the cell's
-// margins 180.
-constexpr int LotNumber = 1230;
-constexpr int Name = 1440;
-constexpr int Date = 1440;
-constexpr int Quantity = 1170;
-constexpr int WideQuantity = 1440;
-constexpr int Mark = 810;
-
-Qt::Alignment AlignmentOf(Kind kind)
+/// Lists of a code and its name. Widths in twips.
+std::vector<ListColumn> CodeColumns(const QString& code, const QString& name)
 {
-    switch (kind) {
-    case Kind::Number:
-        return Qt::AlignRight;
-    case Kind::Flag:
-        return Qt::AlignHCenter;
-    case Kind::Text:
-        break;
-    }
-    return Qt::AlignLeft;
+    return {{code, 1800}, {name, 3000}};
+}
+
+const std::vector<ListTable>& Lists()
+{
+    static const std::vector<ListTable> lists{
+        {.menuKey = u"UserList"_s,
+         .editWindow = u"frmUserList"_s,
+         .table = u"User_List"_s,
+         .fields = u"UserID,UserName,UserPWD,UserIP,bolIP"_s,
+         .order = u" Order By UserID"_s,
+         .columns = {{u"用户编号"_s, 1500},
+                     {u"用户姓名"_s, 2400},
+                     {u"用户密码"_s, 2400},
+                     {u"用户IP"_s, 2400},
+                     {u"IP管制"_s, 1200, Kind::Flag}},
+         .deletions = {{u"User_List"_s, u"UserID='%1'"_s},
+                       {u"User_Menu"_s, u"UserID='%1'"_s},
+                       {u"Count_Bill"_s, u"UID='%1'"_s}}},
+        {.menuKey = u"Sales"_s,
+         .editWindow = u"frmSales"_s,
+         .table = u"Sales"_s,
+         .fields = u"SalesID,SalesName"_s,
+         .order = u" Order By SalesID"_s,
+         .columns = CodeColumns(u"工号"_s, u"姓名"_s),
+         .deletions = {{u"Sales"_s, u"SalesID='%1'"_s}}},
+        {.menuKey = u"PRDSort"_s,
+         .editWindow = u"frmPRDSort"_s,
+         .table = u"PRD_Sort"_s,
+         .fields = u"SortID,SortName"_s,
+         .order = u" Order By SortID"_s,
+         .columns = CodeColumns(u"编号"_s, u"名称"_s),
+         .deletions = {{u"PRD_Sort"_s, u"SortID='%1'"_s}}},
+        {.menuKey = u"FeeType"_s,
+         .editWindow = u"frmFeeType"_s,
+         .table = u"Fee_Type"_s,
+         .fields = u"FeeID,FeeName"_s,
+         .order = u" Order By FeeID"_s,
+         .columns = CodeColumns(u"编号"_s, u"名称"_s),
+         .deletions = {{u"Fee_Type"_s, u"FeeID='%1'"_s}}},
+        {.menuKey = u"CustList"_s,
+         .editWindow = u"frmCustList"_s,
+         .table = u"Cust_List"_s,
+         .fields = u"CustName,CustAddress,CustCharge,CustTel,CustFax,CustMobile,CreditMoney,bolControl"_s,
+         .order = u" Order By CustName"_s,
+         .columns = {{u"客户名称"_s, 2700},
+                     {u"地址"_s, 4200},
+                     {u"联系人"_s, 1500},
+                     {u"电话"_s, 1950},
+                     {u"传真"_s, 1950},
+                     {u"手机"_s, 1950},
+                     {u"信用额度"_s, 1500, Kind::Number},
+                     {u"信用管制"_s, 1200, Kind::Flag}},
+         .deletions = {{u"Cust_List"_s, u"CustName='%1'"_s}}},
+        {.menuKey = u"PackSort"_s,
+         .editWindow = u"frmPackSort"_s,
+         .deletions = {{u"Pack_List"_s, u"PackNo='%1' And bolCheck='0'"_s},
+                       {u"DFN_Pack"_s, u"PackNo='%1'"_s}},
+         .deleteQuestion = u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s},
+        {.menuKey = u"PRDList"_s,
+         .editWindow = u"frmPRDList"_s,
+         .read = ReadLots,
+         .searchWindow = u"frmSearchPRD"_s,
+         .print = ReprintLotSlip,
+         .hasLotMenu = true},
+    };
+    return lists;
 }
 
 } // namespace
 
-const RecordTable* RecordTableOf(const QString& menuKey)
+const ListTable* ListOf(const QString& menuKey)
 {
-    static const QHash<QString, RecordTable> tables{
-        {u"UserList"_s,
-         {u"User_List"_s,
-          u"UserID,UserName,UserPWD,UserIP,bolIP"_s,
-          u" Order By UserID"_s,
-          {{u"用户编号"_s, 1500},
-           {u"用户姓名"_s, 2400},
-           {u"用户密码"_s, 2400},
-           {u"用户IP"_s, 2400},
-           {u"IP管制"_s, 1200, Kind::Flag}}}},
-        {u"Sales"_s,
-         {u"Sales"_s,
-          u"SalesID,SalesName"_s,
-          u" Order By SalesID"_s,
-          {{u"工号"_s, 1800}, {u"姓名"_s, 3000}}}},
-        {u"PRDSort"_s,
-         {u"PRD_Sort"_s,
-          u"SortID,SortName"_s,
-          u" Order By SortID"_s,
-          {{u"编号"_s, 1800}, {u"名称"_s, 3000}}}},
-        {u"FeeType"_s,
-         {u"Fee_Type"_s, u"FeeID,FeeName"_s, u" Order By FeeID"_s, {{u"编号"_s, 1800}, {u"名称"_s, 3000}}}},
-        {u"CustList"_s,
-         {u"Cust_List"_s,
-          u"CustName,CustAddress,CustCharge,CustTel,CustFax,CustMobile,CreditMoney,bolControl"_s,
-          u" Order By CustName"_s,
-          {{u"客户名称"_s, 2700},
-           {u"地址"_s, 4200},
-           {u"联系人"_s, 1500},
-           {u"电话"_s, 1950},
-           {u"传真"_s, 1950},
-           {u"手机"_s, 1950},
-           {u"信用额度"_s, 1500, Kind::Number},
-           {u"信用管制"_s, 1200, Kind::Flag}}}},
-    };
-    const auto found = tables.constFind(menuKey);
-    return found == tables.cend() ? nullptr : &*found;
+    const auto found = std::find_if(Lists().begin(), Lists().end(),
+                                    [&menuKey](const ListTable& list) { return list.menuKey == menuKey; });
+    return found == Lists().end() ? nullptr : &*found;
 }
 
-std::vector<ListColumn> LotColumns(bool detailed)
+ListContents ReadList(const ListTable& list, const QString& filter)
 {
-    std::vector<ListColumn> columns{
-        {u"编号"_s, LotNumber}, {u"快捷编号"_s, Quantity}, {u"品名"_s, Name},
-        {u"姓名"_s, Name},      {u"到货日期"_s, Date},
-    };
-    const std::vector<ListColumn> figures =
-        detailed ? std::vector<ListColumn>{{u"首次到货"_s, Quantity, Kind::Number},
-                                           {u"累计进货"_s, Quantity, Kind::Number},
-                                           {u"总到货量"_s, Quantity, Kind::Number},
-                                           {u"累计转出"_s, Quantity, Kind::Number},
-                                           {u"累计损耗"_s, Quantity, Kind::Number},
-                                           {u"实到货量"_s, Quantity, Kind::Number},
-                                           {u"累计销售"_s, Quantity, Kind::Number},
-                                           {u"库存"_s, Quantity, Kind::Number}}
-                 : std::vector<ListColumn>{{u"首次到货量"_s, WideQuantity, Kind::Number},
-                                           {u"总到货量"_s, WideQuantity, Kind::Number},
-                                           {u"库存"_s, WideQuantity, Kind::Number}};
-    columns.insert(columns.end(), figures.begin(), figures.end());
-    columns.insert(
-        columns.end(),
-        {{u"折算"_s, 900, Kind::Number}, {u"押包"_s, Mark, Kind::Flag}, {u"锁定"_s, Mark, Kind::Flag}});
-    return columns;
+    if (list.read)
+        return list.read(filter);
+    ListContents contents{.columns = list.columns};
+    if (list.columns.empty())
+        return contents;
+    for (RecordSet rows = Gateway().SelectRows(list.table, list.fields, list.order); !rows.Eof();
+         rows.MoveNext()) {
+        QStringList texts;
+        for (const ListColumn& column : list.columns) {
+            const QString text = rows.Text(static_cast<int>(texts.size()));
+            texts << (column.kind == Kind::Flag ? CheckMark(text) : text);
+        }
+        contents.rows.push_back(texts);
+    }
+    return contents;
 }
 
-std::vector<ListGrid::Column> GridColumns(const std::vector<ListColumn>& columns)
+void DeleteRecord(const ListTable& list, const QString& key)
 {
-    std::vector<ListGrid::Column> grid;
-    grid.reserve(columns.size());
-    for (const ListColumn& column : columns)
-        grid.push_back({column.header, column.widthTwips, AlignmentOf(column.kind)});
-    return grid;
+    for (const Deletion& deletion : list.deletions)
+        Gateway().DeleteRows(deletion.table, deletion.where.arg(key));
+}
+
+void NewRecord(const QString& menuKey)
+{
+    if (const ListTable* list = ListOf(menuKey))
+        ShowFunctionWindow(list->editWindow);
+}
+
+void OpenSearch(const QString& menuKey)
+{
+    const ListTable* list = ListOf(menuKey);
+    ShowFunctionWindow(list && !list->searchWindow.isEmpty() ? list->searchWindow : u"frmSearchCond"_s);
 }

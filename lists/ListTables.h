@@ -1,37 +1,53 @@
 #pragma once
 
-#include "core/forms/ListGrid.h"
+#include "core/forms/ListContents.h"
 
 #include <QString>
 
 #include <vector>
 
-/// One column of a list: how its values are shown and where they stand.
-struct ListColumn {
-    enum class Kind {
-        Text,
-        Number, ///< to the right
-        Flag,   ///< a check mark for "1", centred
-    };
-
-    QString header;
-    int widthTwips = 0;
-    Kind kind = Kind::Text;
-};
-
-/// A list that is one statement: a table, its fields, and the order, one field to a column.
-struct RecordTable {
+/// A statement that deletes a row of a list.
+struct Deletion {
     QString table;
-    QString fields;
-    QString order;
-    std::vector<ListColumn> columns;
+    QString where; ///< %1 stands for the row's key
 };
 
-/// The list of a menu key; nullptr for a key that has none of this simple kind.
-const RecordTable* RecordTableOf(const QString& menuKey);
+/// What a menu key lists, and what can be done to its rows. This is the one place that tells it: a new list
+/// is one more row of the table.
+struct ListTable {
+    QString menuKey;
+    QString editWindow; ///< makes a row and changes one; takes the row's key, the text of the first column
 
-/// The columns of the goods list: the short form, or the one with every stock figure.
-std::vector<ListColumn> LotColumns(bool detailed);
+    // The rows: one statement, one field to a column ...
+    QString table = {};
+    QString fields = {};
+    QString order = {};
+    std::vector<ListColumn> columns = {};
+    // ... or a routine, where they take more than that. `filter` is "" or " And ...".
+    ListContents (*read)(const QString& filter) = nullptr;
 
-/// The same as the list grid takes them.
-std::vector<ListGrid::Column> GridColumns(const std::vector<ListColumn>& columns);
+    std::vector<Deletion> deletions = {}; ///< in their order; none: its rows are not deleted
+    QString deleteQuestion = {};          ///< asked before them; "": they go without a question
+
+    QString searchWindow = {};                   ///< filters the list
+    void (*print)(const QString& key) = nullptr; ///< prints the document of a row
+    bool hasLotMenu = false;                     ///< the right button brings the menu of the lots
+
+    /// False while the program has no such list yet.
+    bool IsProvided() const { return read || !columns.empty(); }
+};
+
+/// The list of a menu key; nullptr for a key that has none.
+const ListTable* ListOf(const QString& menuKey);
+
+/// What the list shows. @throws DatabaseError
+ListContents ReadList(const ListTable& list, const QString& filter);
+
+/// Deletes a row by its key. @throws DatabaseError; what was deleted before stays deleted
+void DeleteRecord(const ListTable& list, const QString& key);
+
+/// Opens the edit window of a menu key's list for a new row; nothing for a key without a list.
+void NewRecord(const QString& menuKey);
+
+/// Opens the search of a menu key: the filter of its list, for any other key the conditions of the reports.
+void OpenSearch(const QString& menuKey);

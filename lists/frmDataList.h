@@ -1,22 +1,20 @@
 #pragma once
 
 #include "core/forms/FormWindow.h"
+#include "core/forms/ListContents.h"
 
 #include <memory>
-#include <utility>
 #include <vector>
 
-class QAction;
-class QMenu;
-struct ListColumn;
-struct RecordTable;
+class LotListMenu;
+struct ListTable;
 
 namespace Ui {
 class frmDataList;
 }
 
-/// The one list window of the master data. What it lists follows the menu key; its main use is the open
-/// lots, with their orders, a switch for every stock figure, and a filter.
+/// The one list window. What it lists follows the menu key; what is done to its rows is done to the list
+/// they were read for.
 class frmDataList : public FormWindow {
     Q_OBJECT
 
@@ -27,25 +25,29 @@ public:
     void OnLoad() override;
     void RefreshList() override;
     void SetSearchClause(const QString& clause) override { m_searchClause = clause; }
-    std::optional<QString> SelectedKey() const override;
+
+    void ToolbarNew() override;
+    void ToolbarPrint() override;
+    void ToolbarEdit() override;
+    void ToolbarSearch() override;
+    void ToolbarDelete() override;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void BuildPopup();
     void ShowPopup(const QPoint& globalPosition);
-    void SetOrder(const QString& order);
-    /// Sets the columns, unless this layout stands already: dragged widths outlive a rebuild.
-    void ShowColumns(const QString& layout, const std::vector<ListColumn>& columns);
-    void FillRecords(const RecordTable& table);
-    void FillLots();
+    /// Sets the columns, unless they stand already: dragged widths outlive a rebuild.
+    void ShowColumns(const std::vector<ListColumn>& columns);
+    /// The list whose rows are shown. When another was chosen since, its rows are shown instead, and there
+    /// is none to act on: nobody has seen those rows yet.
+    const ListTable* ListToActOn();
     void EditRow(int row);
 
     std::unique_ptr<Ui::frmDataList> ui;
-    QMenu* m_popup = nullptr;
-    std::vector<std::pair<QAction*, QString>> m_orders; ///< each with its text in Sys_Define.PRD_Order
-    QAction* m_showStock = nullptr;
-    QString m_searchClause; ///< "" or " And ...", behind the condition of the goods list
-    QString m_layout;       ///< which columns stand
+    LotListMenu* m_lotMenu;
+    QString m_menuKey;                 ///< that the rows were read for
+    const ListTable* m_list = nullptr; ///< of that key; none for a key that has no list
+    QString m_searchClause;            ///< "" or " And ...", behind the condition of the goods list
+    std::vector<ListColumn> m_columns; ///< that stand
 };

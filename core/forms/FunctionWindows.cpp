@@ -3,26 +3,23 @@
 #include "core/common/Messages.h"
 #include "core/forms/WindowRegistry.h"
 
-#include <QHash>
 #include <QScopeGuard>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
 
-QString RecordFormOf(const QString& menuKey)
+namespace {
+
+Form* Frame()
 {
-    static const QHash<QString, QString> forms{
-        {u"UserList"_s, u"frmUserList"_s}, {u"Sales"_s, u"frmSales"_s},     {u"PRDSort"_s, u"frmPRDSort"_s},
-        {u"CustList"_s, u"frmCustList"_s}, {u"PRDList"_s, u"frmPRDList"_s}, {u"PackSort"_s, u"frmPackSort"_s},
-        {u"FeeType"_s, u"frmFeeType"_s},
-    };
-    return forms.value(menuKey);
+    return Windows().Find(u"frmMain"_s);
 }
+
+} // namespace
 
 QWidget* MainFrame()
 {
-    Form* frame = Windows().Find(u"frmMain"_s);
-    return frame ? frame->Widget() : nullptr;
+    return Frame() ? Frame()->Widget() : nullptr;
 }
 
 void ShowFunctionWindow(const QString& name)
@@ -30,30 +27,49 @@ void ShowFunctionWindow(const QString& name)
     if (Windows().Knows(name))
         Windows().Show(name, MainFrame());
     else
-        ShowInfo(u"此功能在本版本中尚未提供。"_s);
+        TellNotProvided();
+}
+
+void TellNotProvided()
+{
+    ShowInfo(u"此功能在本版本中尚未提供。"_s);
+}
+
+void ShowRecord(const QString& window, const QString& key)
+{
+    if (!Windows().Knows(window)) {
+        TellNotProvided();
+        return;
+    }
+    Form* form = Windows().Load(window, MainFrame());
+    if (!form)
+        return;
+    // A key that cannot be read is told, but must not leave a loaded window that nobody sees.
+    const auto show = qScopeGuard([&window] { ShowFunctionWindow(window); });
+    form->SetKey(key);
 }
 
 void ShowInFrame(Form* window)
 {
-    if (Form* frame = Windows().Find(u"frmMain"_s))
+    if (Form* frame = Frame())
         frame->Hold(window);
     else
         window->Widget()->show();
 }
 
-void EditRecord(const QString& menuKey, const QString& key)
+void EnableToolbar(const QStringList& buttons)
 {
-    const QString name = RecordFormOf(menuKey);
-    if (name.isEmpty())
-        return;
-    if (!Windows().Knows(name)) {
-        ShowFunctionWindow(name);
-        return;
-    }
-    Form* form = Windows().Load(name, MainFrame());
-    if (!form)
-        return;
-    // A key that cannot be read is told, but must not leave a loaded window that nobody sees.
-    const auto show = qScopeGuard([&name] { ShowFunctionWindow(name); });
-    form->SetKey(key);
+    if (Form* frame = Frame())
+        frame->EnableToolbar(buttons);
+}
+
+Form* OpenList()
+{
+    return Windows().Find(u"frmDataList"_s);
+}
+
+void RefreshOpenList()
+{
+    if (Form* list = OpenList())
+        list->RefreshList();
 }

@@ -1,13 +1,10 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 class Form;
 class QWidget;
-
-/// The edit window of a list, by the menu key of the list: "Sales" gives "frmSales"; "" for a key whose
-/// list has none.
-QString RecordFormOf(const QString& menuKey);
 
 /// The main window's widget, owner of every function window; nullptr before it is loaded.
 QWidget* MainFrame();
@@ -16,8 +13,22 @@ QWidget* MainFrame();
 /// one box says so and nothing else happens.
 void ShowFunctionWindow(const QString& name);
 
+/// Says that the program does not have what was chosen.
+void TellNotProvided();
+
+/// Shows a window with a record in it: puts the key into its key field, which loads the rest. A program
+/// without that window says so.
+void ShowRecord(const QString& window, const QString& key);
+
 /// Shows a loaded window inside the main window's work area; on its own before there is a main window.
 void ShowInFrame(Form* window);
 
-/// Opens the edit window of the list and puts the key into its key field, which loads the record.
-void EditRecord(const QString& menuKey, const QString& key);
+/// Switches on the main window's toolbar buttons of these keys ("mnuPrint"), until the next menu choice.
+void EnableToolbar(const QStringList& buttons);
+
+/// The list window while it is open; nullptr otherwise.
+Form* OpenList();
+
+/// Rebuilds the list window's rows, if it is open: a save behind it may have changed them.
+/// @throws DatabaseError
+void RefreshOpenList();

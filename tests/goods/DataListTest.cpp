@@ -155,14 +155,14 @@ TEST_F(DataList, TheFirstRowIsCurrentAfterEachRebuildAndGivesTheKey)
     AddThreeLots();
     OpenList();
     Form* list = Windows().Find(u"frmDataList"_s);
-    EXPECT_EQ(list->SelectedKey(), u"B-001"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s);
     Press(Qt::Key_Down);
-    EXPECT_EQ(list->SelectedKey(), u"A-002"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"A-002"_s);
     list->RefreshList();
-    EXPECT_EQ(list->SelectedKey(), u"B-001"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s);
     Db().Run(u"DELETE FROM PRD_List"_s);
     list->RefreshList();
-    EXPECT_EQ(list->SelectedKey(), std::nullopt);
+    EXPECT_EQ(List()->SelectedRow(), -1);
 }
 
 TEST_F(DataList, DoubleClickAndEnterOpenTheLotForCorrection)
@@ -360,7 +360,7 @@ TEST_F(DataList, FiveHundredLotsStandInTheList)
     OpenList();
     EXPECT_EQ(List()->RowCount(), 500);
     EXPECT_EQ(TakeStatements().size(), 502);
-    EXPECT_EQ(Windows().Find(u"frmDataList"_s)->SelectedKey(), List()->SubItem(0, 1));
+    EXPECT_EQ(List()->SelectedKey(), List()->SubItem(0, 1));
 }
 
 namespace {
