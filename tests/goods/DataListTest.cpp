@@ -165,6 +165,20 @@ TEST_F(DataList, TheFirstRowIsCurrentAfterEachRebuildAndGivesTheKey)
     EXPECT_EQ(List()->SelectedRow(), -1);
 }
 
+TEST_F(DataList, WithoutARowOfSettingsTheListOpensNewestFirstInTheShortForm)
+{
+    AddThreeLots();
+    Db().Run(u"DELETE FROM Sys_Define"_s);
+    OpenList();
+    EXPECT_EQ(Numbers(), (QStringList{u"B-001"_s, u"A-002"_s, u"C-001"_s}));
+    EXPECT_EQ(Headers().size(), 11);
+    Press(Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_TRUE(Popup()->isVisible());
+    EXPECT_TRUE(Entry(u"mnuOrderByDate"_s)->isChecked());
+    EXPECT_FALSE(Entry(u"mnuShowEStore"_s)->isChecked());
+    Popup()->close();
+}
+
 TEST_F(DataList, DoubleClickAndEnterOpenTheLotForCorrection)
 {
     AddThreeLots();
