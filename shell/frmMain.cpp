@@ -13,6 +13,7 @@
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
 #include "lists/ListTables.h"
+#include "shell/NumberedMenuBar.h"
 #include "shell/ToolbarIcons.h"
 #include "shell/ToolbarTable.h"
 #include "shell/WorkArea.h"
@@ -25,7 +26,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScopeGuard>
-#include <QShortcut>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -35,6 +36,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr std::array<int, 5> PanelShares{4, 5, 3, 2, 5};
+
+constexpr QSize UsualSize(1280, 700);
+constexpr int TitleBar = 40; // pixels, at the most
 
 /// What every list has.
 const QStringList ListButtons{u"mnuNew"_s, u"mnuEdit"_s, u"mnuDelete"_s};
@@ -55,21 +59,22 @@ frmMain::frmMain(QWidget* owner) : QMainWindow(owner), m_workArea(new WorkArea(t
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Orvane水果销售管理系统通用版"_s);
     ApplyWindowSkin(this);
-    resize(1280, 700);
     m_workArea->setObjectName(u"WorkArea"_s);
     setCentralWidget(m_workArea);
     BuildMenus();
     BuildToolbar();
     BuildStatusBar();
+    FitToScreen();
 }
 
 frmMain::~frmMain() = default;
 
 void frmMain::BuildMenus()
 {
-    int number = 0;
+    auto* bar = new NumberedMenuBar(this);
+    setMenuBar(bar);
     for (const TopMenu& top : MenuBar()) {
-        QMenu* menu = menuBar()->addMenu(top.caption);
+        QMenu* menu = bar->AddMenu(top.caption);
         menu->setObjectName(top.control);
         menu->menuAction()->setObjectName(top.control);
         for (const MenuEntry& entry : top.entries) {
@@ -78,9 +83,6 @@ void frmMain::BuildMenus()
             connect(action, &QAction::triggered, this,
                     [this, &entry] { RunHandler([&] { Choose(entry); }); });
         }
-        auto* open = new QShortcut(QKeySequence(u"Alt+%1"_s.arg(++number)), this);
-        connect(open, &QShortcut::activated, menuBar(),
-                [this, menu] { menuBar()->setActiveAction(menu->menuAction()); });
     }
 }
 
@@ -113,8 +115,19 @@ void frmMain::BuildStatusBar()
         m_panels[i] = new QLabel(statusBar());
         m_panels[i]->setObjectName(u"panel%1"_s.arg(i + 1));
         m_panels[i]->setTextFormat(Qt::PlainText);
+        // A long name is cut, rather than making the frame wider than the screen.
+        m_panels[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         statusBar()->addWidget(m_panels[i], PanelShares[i]);
     }
+}
+
+void frmMain::FitToScreen()
+{
+    const QSize available = screen()->availableSize();
+    resize(UsualSize.boundedTo(available));
+    // Only the desktop knows how much its title bar takes.
+    if (available.width() < UsualSize.width() || available.height() < UsualSize.height() + TitleBar)
+        setWindowState(Qt::WindowMaximized);
 }
 
 void frmMain::OnLoad()

@@ -41,6 +41,7 @@ private:
     void BuildMenus();
     void BuildToolbar();
     void BuildStatusBar();
+    void FitToScreen();
     void ApplyUserMenus();
     void Choose(const MenuEntry& entry);
     void OpenWindow(const MenuEntry& entry);
