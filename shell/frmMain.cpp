@@ -134,6 +134,7 @@ void frmMain::OnLoad()
 {
     m_workArea->SetCover(LoadCoverPicture());
     m_panels[1]->setText(GetCompName());
+    m_panels[1]->setToolTip(m_panels[1]->text()); // where there is no room for all of it
     m_panels[2]->setText(Session::CurrentUserName + u'[' + Session::CurrentUserID + u']');
     m_panels[3]->setText(FormatDate(Clock::Now().date()));
     m_panels[4]->setText(u"水果批发代销 · 收货 开票 结算"_s);
