@@ -8,8 +8,8 @@
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/LabelButton.h"
-#include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "goods/LotSlip.h"
@@ -223,8 +223,7 @@ void frmPRDList::SaveLot()
         else if (!BookNewLot(entry, now))
             return;
         PrintSlip(entry, now);
-        if (Form* list = Windows().Find(u"frmDataList"_s))
-            list->RefreshList();
+        RefreshOpenList();
         ClearForNext(now);
     });
 }

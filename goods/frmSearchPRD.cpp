@@ -1,7 +1,7 @@
 #include "goods/frmSearchPRD.h"
 
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/LabelButton.h"
-#include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "ui_frmSearchPRD.h"
 
@@ -58,10 +58,9 @@ QString frmSearchPRD::Clause() const
 void frmSearchPRD::Search()
 {
     Guarded(u"查询内容"_s, [this] {
-        if (Form* list = Windows().Find(u"frmDataList"_s)) {
+        if (Form* list = OpenList())
             list->SetSearchClause(Clause());
-            list->RefreshList();
-        }
+        RefreshOpenList();
         close();
     });
 }

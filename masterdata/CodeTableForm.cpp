@@ -3,8 +3,8 @@
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/LabelButton.h"
-#include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 
 #include <QLineEdit>
@@ -74,7 +74,6 @@ void CodeTableForm::Save()
         WriteText(m_controls.key, QString());
         WriteText(m_controls.name, QString());
         FocusAndSelect(m_controls.key);
-        if (Form* list = Windows().Find(u"frmDataList"_s))
-            list->RefreshList();
+        RefreshOpenList();
     });
 }

@@ -4,7 +4,7 @@
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/forms/WindowRegistry.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/gateway/DataGateway.h"
 
 #include "ui_frmCustList.h"
@@ -119,7 +119,6 @@ void frmCustList::Save()
         WriteText(ui->txtCustName, QString());
         ClearBuyer();
         FocusAndSelect(ui->txtCustName);
-        if (Form* list = Windows().Find(u"frmDataList"_s))
-            list->RefreshList();
+        RefreshOpenList();
     });
 }

@@ -1,6 +1,7 @@
 #include "masterdata/frmGetCustList.h"
 
 #include "core/common/Handlers.h"
+#include "core/forms/MenuTable.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -9,29 +10,10 @@
 #include "ui_frmGetCustList.h"
 
 #include <QFocusEvent>
-#include <QHash>
 #include <QShortcut>
 #include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The window that receives the name, by the function that was chosen from the menu.
-QString AskingWindow(const QString& menuKey)
-{
-    static const QHash<QString, QString> windows{
-        {u"Sale"_s, u"frmSale"_s},
-        {u"ESale"_s, u"frmSale"_s},
-        {u"RptSaleDetail"_s, u"frmSale"_s},
-        {u"CheckCheque"_s, u"frmCheckCheque"_s},
-        {u"RptCheque"_s, u"frmSearchCond"_s},
-        {u"RptCheckCheque"_s, u"frmSearchCond"_s},
-    };
-    return windows.value(menuKey);
-}
-
-} // namespace
 
 frmGetCustList::frmGetCustList(QWidget* owner)
     : FormWindow(owner, SlotUse::Untouched), ui(std::make_unique<Ui::frmGetCustList>())
@@ -97,7 +79,8 @@ void frmGetCustList::Submit()
 {
     const QString name = ui->txtCustName->text();
     if (!name.isEmpty()) {
-        if (Form* asking = Windows().Find(AskingWindow(Session::CurrentMenuKey)))
+        const MenuEntry* entry = MenuEntryOf(Session::CurrentMenuKey);
+        if (Form* asking = entry ? Windows().Find(entry->takesBuyer) : nullptr)
             asking->TakeName(name);
     }
     close();

@@ -1,6 +1,6 @@
 #include "printing/Documents.h"
 
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/WindowRegistry.h"
 
 using namespace Qt::StringLiterals;

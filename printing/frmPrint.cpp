@@ -5,7 +5,7 @@
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/session/Session.h"
 #include "printing/DocumentRules.h"
 #include "printing/PrintQueue.h"

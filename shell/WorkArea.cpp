@@ -14,6 +14,8 @@ using namespace Qt::StringLiterals;
 WorkArea::WorkArea(QWidget* parent) : QMdiArea(parent)
 {
     setBackground(QColor(0x8d, 0x9b, 0xa8));
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 void WorkArea::SetCover(const QPixmap& picture)
@@ -48,6 +50,8 @@ void WorkArea::Hold(Form* list)
         connect(widget, &QObject::destroyed, frame, &QMdiSubWindow::close);
         CloseByKey(frame);
     }
+    // The area scrolls where the window needs more room than there is.
+    frame->setMinimumSize(widget->minimumSizeHint().expandedTo(widget->minimumSize()));
     frame->showMaximized();
     widget->show();
     setActiveSubWindow(frame);

@@ -5,24 +5,28 @@
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
+#include "core/forms/MenuTable.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
-#include "goods/LotSlip.h"
-#include "shell/MenuTable.h"
+#include "lists/ListTables.h"
+#include "shell/NumberedMenuBar.h"
 #include "shell/ToolbarIcons.h"
+#include "shell/ToolbarTable.h"
 #include "shell/WorkArea.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
-#include <QShortcut>
+#include <QScopeGuard>
+#include <QScreen>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QUrl>
@@ -31,16 +35,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The buttons' positions step by two: a separator stands in front of each.
-constexpr int FirstPosition = 2;
-constexpr int PositionStep = 2;
-
 constexpr std::array<int, 5> PanelShares{4, 5, 3, 2, 5};
 
-/// Lists whose rows are made, changed and deleted from the toolbar.
-bool HasRecordForm(const QString& menuKey)
+constexpr QSize UsualSize(1280, 700);
+constexpr int TitleBar = 40; // pixels, at the most
+
+/// What every list has.
+const QStringList ListButtons{u"mnuNew"_s, u"mnuEdit"_s, u"mnuDelete"_s};
+
+/// All but help and exit, which are always on.
+const QStringList WorkButtons{u"mnuNew"_s,  u"mnuSave"_s,   u"mnuPreview"_s, u"mnuPrint"_s,
+                              u"mnuEdit"_s, u"mnuSearch"_s, u"mnuDelete"_s,  u"mnuExport"_s};
+
+bool IsReport(const QString& menuKey)
 {
-    return !RecordFormOf(menuKey).isEmpty();
+    return menuKey.startsWith(u"Rpt");
 }
 
 } // namespace
@@ -50,21 +59,22 @@ frmMain::frmMain(QWidget* owner) : QMainWindow(owner), m_workArea(new WorkArea(t
     setObjectName(u"frmMain"_s);
     setWindowTitle(u"Orvane水果销售管理系统通用版"_s);
     ApplyWindowSkin(this);
-    resize(1280, 700);
     m_workArea->setObjectName(u"WorkArea"_s);
     setCentralWidget(m_workArea);
     BuildMenus();
     BuildToolbar();
     BuildStatusBar();
+    FitToScreen();
 }
 
 frmMain::~frmMain() = default;
 
 void frmMain::BuildMenus()
 {
-    int number = 0;
+    auto* bar = new NumberedMenuBar(this);
+    setMenuBar(bar);
     for (const TopMenu& top : MenuBar()) {
-        QMenu* menu = menuBar()->addMenu(top.caption);
+        QMenu* menu = bar->AddMenu(top.caption);
         menu->setObjectName(top.control);
         menu->menuAction()->setObjectName(top.control);
         for (const MenuEntry& entry : top.entries) {
@@ -73,9 +83,6 @@ void frmMain::BuildMenus()
             connect(action, &QAction::triggered, this,
                     [this, &entry] { RunHandler([&] { Choose(entry); }); });
         }
-        auto* open = new QShortcut(QKeySequence(u"Alt+%1"_s.arg(++number)), this);
-        connect(open, &QShortcut::activated, menuBar(),
-                [this, menu] { menuBar()->setActiveAction(menu->menuAction()); });
     }
 }
 
@@ -90,11 +97,12 @@ void frmMain::BuildToolbar()
         toolbar->addSeparator();
         QAction* action = toolbar->addAction(ToolbarIcon(button.key), button.toolTip);
         action->setObjectName(button.key);
-        action->setToolTip(button.toolTip);
-        if (!button.shortcut.isEmpty())
-            action->setShortcut(QKeySequence(button.shortcut));
+        action->setToolTip(button.shortcut.isEmpty() ? button.toolTip
+                                                     : button.toolTip + u" ("_s + button.shortcut + u')');
+        action->setShortcut(QKeySequence(button.shortcut));
+        action->setAutoRepeat(false); // a key held down would go through a whole table
         connect(action, &QAction::triggered, this,
-                [this, &button] { RunHandler([&] { PressToolbar(button.key); }); });
+                [this, &button] { RunHandler([&] { PressToolbar(button); }); });
         m_buttons.insert(button.key, action);
     }
 }
@@ -107,14 +115,26 @@ void frmMain::BuildStatusBar()
         m_panels[i] = new QLabel(statusBar());
         m_panels[i]->setObjectName(u"panel%1"_s.arg(i + 1));
         m_panels[i]->setTextFormat(Qt::PlainText);
+        // A long name is cut, rather than making the frame wider than the screen.
+        m_panels[i]->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         statusBar()->addWidget(m_panels[i], PanelShares[i]);
     }
+}
+
+void frmMain::FitToScreen()
+{
+    const QSize available = screen()->availableSize();
+    resize(UsualSize.boundedTo(available));
+    // Only the desktop knows how much its title bar takes.
+    if (available.width() < UsualSize.width() || available.height() < UsualSize.height() + TitleBar)
+        setWindowState(Qt::WindowMaximized);
 }
 
 void frmMain::OnLoad()
 {
     m_workArea->SetCover(LoadCoverPicture());
     m_panels[1]->setText(GetCompName());
+    m_panels[1]->setToolTip(m_panels[1]->text()); // where there is no room for all of it
     m_panels[2]->setText(Session::CurrentUserName + u'[' + Session::CurrentUserID + u']');
     m_panels[3]->setText(FormatDate(Clock::Now().date()));
     m_panels[4]->setText(u"水果批发代销 · 收货 开票 结算"_s);
@@ -156,6 +176,7 @@ void frmMain::Choose(const MenuEntry& entry)
     }
     if (!entry.key.isEmpty())
         Session::CurrentMenuKey = entry.key;
+    m_lastButton.clear();
     ResetToolbar();
     if (m_isLoaded)
         OpenWindow(entry);
@@ -166,122 +187,83 @@ void frmMain::OpenWindow(const MenuEntry& entry)
     QString window = entry.window;
     if (entry.control == u"menuCheckOut")
         window = SettlementWindow();
-    if (entry.control == u"menuPRDList")
-        EnableToolbar({8, 12});
-    if (entry.control == u"menuRptForegift")
-        EnableToolbar({14});
+    EnableToolbar(entry.buttons);
     if (entry.control == u"menuRptCheckOutDetail" && Windows().Knows(window))
         Session::WindowSlotFree = false;
 
-    if (window != u"frmDataList") {
+    if (window != u"frmDataList")
         ShowFunctionWindow(window);
-    } else if (Form* list = Windows().Load(window, m_workArea)) {
-        Hold(list);
-    }
+    else
+        OpenListWindow(window);
 }
 
-void frmMain::EnableToolbar(std::initializer_list<int> positions, bool enabled)
+void frmMain::OpenListWindow(const QString& window)
 {
-    for (const int position : positions) {
-        const auto index = static_cast<std::size_t>((position - FirstPosition) / PositionStep);
-        m_buttons.value(Toolbar().at(index).key)->setEnabled(enabled);
-    }
+    const ListTable* list = ListOf(Session::CurrentMenuKey);
+    if (!list || !list->IsProvided())
+        TellNotProvided();
+    else if (Form* open = Windows().LoadAnew(window, m_workArea))
+        Hold(open);
+}
+
+void frmMain::EnableToolbar(const QStringList& buttons, bool enabled)
+{
+    for (const QString& key : buttons)
+        m_buttons.value(key)->setEnabled(enabled);
 }
 
 void frmMain::ResetToolbar()
 {
-    EnableToolbar({2, 4, 6, 8, 10, 12, 14, 16}, false);
+    EnableToolbar(WorkButtons, false);
     if (!CheckSession()) {
         ShowInfo(u"同一用户不允许重复登录，仅最后一次登录的用户有效！程序将退出。"_s);
         ToolbarExit();
     }
-    if (HasRecordForm(Session::CurrentMenuKey))
-        EnableToolbar({2, 10, 14});
+    if (ListOf(Session::CurrentMenuKey))
+        EnableToolbar(ListButtons);
 }
 
-void frmMain::PressToolbar(const QString& key)
+void frmMain::PressToolbar(const ToolbarButton& button)
 {
-    m_panels[0]->setText(m_buttons.value(key)->toolTip());
-    if (key == u"mnuNew")
-        ToolbarNew();
-    else if (key == u"mnuPrint")
-        ToolbarPrint();
-    else if (key == u"mnuEdit")
-        ToolbarEdit();
-    else if (key == u"mnuSearch")
-        ToolbarSearch();
-    else if (key == u"mnuDelete")
-        ToolbarDelete();
-    else if (key == u"mnuHelp")
+    if (IsSecondPress(button.key))
+        return;
+    // Counted from the end of the action: the second press of a double click waits until then.
+    const auto remember = qScopeGuard([this] { m_sinceLastButton.start(); });
+    m_panels[0]->setText(button.toolTip);
+    Act(button);
+}
+
+/// True for a press that follows the last one of the same button as fast as a double click, or as a key that
+/// is held down: nobody has seen yet what the first one did.
+bool frmMain::IsSecondPress(const QString& key)
+{
+    const bool isSecond = key == m_lastButton && m_sinceLastButton.isValid() &&
+                          m_sinceLastButton.elapsed() < QApplication::doubleClickInterval();
+    m_lastButton = key;
+    m_sinceLastButton.start();
+    return isSecond;
+}
+
+void frmMain::Act(const ToolbarButton& button)
+{
+    if (button.key == u"mnuHelp") {
         ToolbarHelp();
-    else if (key == u"mnuExit")
+    } else if (button.key == u"mnuExit") {
         ToolbarExit();
-    // mnuSave has no action. mnuPreview and mnuExport act on reports alone.
+    } else if (button.action) {
+        Form* window = IsReport(Session::CurrentMenuKey) ? Windows().Find(u"frmReport"_s) : OpenList();
+        ((window ? window : this)->*button.action)();
+    }
 }
 
 void frmMain::ToolbarNew()
 {
-    if (HasRecordForm(Session::CurrentMenuKey))
-        ShowFunctionWindow(RecordFormOf(Session::CurrentMenuKey));
-}
-
-void frmMain::ToolbarPrint()
-{
-    if (Session::CurrentMenuKey != u"PRDList")
-        return;
-    const Form* list = Windows().Find(u"frmDataList"_s);
-    if (const auto number = list ? list->SelectedKey() : std::nullopt)
-        ReprintLotSlip(*number);
-}
-
-void frmMain::ToolbarEdit()
-{
-    const Form* list = Windows().Find(u"frmDataList"_s);
-    if (const auto key = list ? list->SelectedKey() : std::nullopt)
-        EditRecord(Session::CurrentMenuKey, *key);
+    NewRecord(Session::CurrentMenuKey);
 }
 
 void frmMain::ToolbarSearch()
 {
-    ShowFunctionWindow(Session::CurrentMenuKey == u"PRDList" ? u"frmSearchPRD"_s : u"frmSearchCond"_s);
-}
-
-void frmMain::ToolbarDelete()
-{
-    const bool isReport = Session::CurrentMenuKey == u"RptForegift";
-    Form* list = Windows().Find(isReport ? u"frmReport"_s : u"frmDataList"_s);
-    const auto key = list ? list->SelectedKey() : std::nullopt;
-    if (!key)
-        return;
-    if (isReport)
-        Gateway().DeleteRows(u"Foregift_RTN"_s, u"SalNo='"_s + *key + u"'"_s);
-    else
-        DeleteFromList(*key);
-    list->RefreshList();
-}
-
-void frmMain::DeleteFromList(const QString& key)
-{
-    const QString menuKey = Session::CurrentMenuKey;
-    const QString text = u"='"_s + key + u"'"_s;
-    if (menuKey == u"UserList") {
-        Gateway().DeleteRows(u"User_List"_s, u"UserID"_s + text);
-        Gateway().DeleteRows(u"User_Menu"_s, u"UserID"_s + text);
-        Gateway().DeleteRows(u"Count_Bill"_s, u"UID"_s + text);
-    } else if (menuKey == u"Sales") {
-        Gateway().DeleteRows(u"Sales"_s, u"SalesID"_s + text);
-    } else if (menuKey == u"FeeType") {
-        Gateway().DeleteRows(u"Fee_Type"_s, u"FeeID"_s + text);
-    } else if (menuKey == u"PRDSort") {
-        Gateway().DeleteRows(u"PRD_Sort"_s, u"SortID"_s + text);
-    } else if (menuKey == u"CustList") {
-        Gateway().DeleteRows(u"Cust_List"_s, u"CustName"_s + text);
-    } else if (menuKey == u"PackSort") {
-        if (!AskYesNo(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s))
-            return;
-        Gateway().DeleteRows(u"Pack_List"_s, u"PackNo"_s + text + u" And bolCheck='0'"_s);
-        Gateway().DeleteRows(u"DFN_Pack"_s, u"PackNo"_s + text);
-    }
+    OpenSearch(Session::CurrentMenuKey);
 }
 
 void frmMain::ToolbarHelp()

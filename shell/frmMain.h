@@ -2,6 +2,7 @@
 
 #include "core/forms/Form.h"
 
+#include <QElapsedTimer>
 #include <QHash>
 #include <QMainWindow>
 
@@ -11,6 +12,7 @@ class QAction;
 class QLabel;
 class WorkArea;
 struct MenuEntry;
+struct ToolbarButton;
 
 /// The frame: menus by the user's rights, the toolbar that acts on the open list or report, the status
 /// bar, and the rule that one function window is open at a time.
@@ -27,8 +29,10 @@ public:
     void OnLoad() override;
     void Hold(Form* window) override;
 
-    /// Switches the toolbar's buttons by their positions, separators counted: 2, 4, .. 20.
-    void EnableToolbar(std::initializer_list<int> positions, bool enabled = true);
+    void EnableToolbar(const QStringList& buttons, bool enabled = true) override;
+    // While neither list nor report is open: what needs none.
+    void ToolbarNew() override;
+    void ToolbarSearch() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -37,23 +41,23 @@ private:
     void BuildMenus();
     void BuildToolbar();
     void BuildStatusBar();
+    void FitToScreen();
     void ApplyUserMenus();
     void Choose(const MenuEntry& entry);
     void OpenWindow(const MenuEntry& entry);
+    void OpenListWindow(const QString& window);
     void ResetToolbar();
 
-    void PressToolbar(const QString& key);
-    void ToolbarNew();
-    void ToolbarPrint();
-    void ToolbarEdit();
-    void ToolbarSearch();
-    void ToolbarDelete();
-    void DeleteFromList(const QString& key);
+    bool IsSecondPress(const QString& key);
+    void PressToolbar(const ToolbarButton& button);
+    void Act(const ToolbarButton& button);
     void ToolbarHelp();
     void ToolbarExit();
 
     WorkArea* m_workArea;
     QHash<QString, QAction*> m_buttons;
+    QString m_lastButton; ///< the button pressed last since a menu choice
+    QElapsedTimer m_sinceLastButton;
     std::array<QLabel*, 5> m_panels{};
     bool m_isLoaded = false;
 };

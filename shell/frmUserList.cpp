@@ -3,7 +3,7 @@
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/forms/WindowRegistry.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/gateway/DataGateway.h"
 
 #include "ui_frmUserList.h"
@@ -114,7 +114,6 @@ void frmUserList::Save()
         WriteText(ui->txtUserID, QString());
         ClearUser();
         FocusAndSelect(ui->txtUserID);
-        if (Form* list = Windows().Find(u"frmDataList"_s))
-            list->RefreshList();
+        RefreshOpenList();
     });
 }

@@ -19,6 +19,7 @@ struct SheetColumn {
     Kind kind = Kind::Text;
 
     Qt::Alignment Alignment() const;
+    bool operator==(const SheetColumn&) const = default;
 };
 
 /// A list as data: columns, and rows of texts by position. The list window, the report window, the

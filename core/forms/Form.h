@@ -1,8 +1,7 @@
 #pragma once
 
 #include <QString>
-
-#include <optional>
+#include <QStringList>
 
 class QWidget;
 
@@ -18,8 +17,9 @@ public:
     /// The widget that is shown.
     virtual QWidget* Widget() = 0;
 
-    /// The first steps of the window's life: its statements, its first texts. Runs once, before the
-    /// window is seen. May throw: the window is then unloaded again. May close the window.
+    /// The first steps of the window's life: its statements, its first texts. Runs before the window is
+    /// seen, and again when the list window is chosen from the menu while it is open. May throw: the window
+    /// is then unloaded again. May close the window.
     virtual void OnLoad() {}
 
     /// Puts a key into the window's key field; its Change handler fills the rest.
@@ -34,6 +34,16 @@ public:
     virtual void SetSearchClause(const QString& /*clause*/) {}
     /// Shows another window inside this one's work area; only the main window has one.
     virtual void Hold(Form* /*window*/) {}
-    /// The key of the selected row of the window's list, that is its sub-item 1; none without a row.
-    virtual std::optional<QString> SelectedKey() const { return std::nullopt; }
+    /// Switches the toolbar's buttons of these keys ("mnuPrint"); only the main window has a toolbar.
+    virtual void EnableToolbar(const QStringList& /*buttons*/, bool /*enabled*/ = true) {}
+
+    // What the toolbar's buttons do to the window they act on: the list, or the report while the menu key is
+    // a report's. Where that window is not open the main window answers.
+    virtual void ToolbarNew() {}
+    virtual void ToolbarPreview() {}
+    virtual void ToolbarPrint() {}
+    virtual void ToolbarEdit() {}
+    virtual void ToolbarSearch() {}
+    virtual void ToolbarDelete() {}
+    virtual void ToolbarExport() {}
 };

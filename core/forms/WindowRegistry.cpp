@@ -22,6 +22,17 @@ Form* WindowRegistry::Load(const QString& name, QWidget* owner)
     Form* form = (*factory)(owner);
     form->Widget()->setObjectName(name);
     m_loaded.insert(name, form);
+    return RunLoad(name, form);
+}
+
+Form* WindowRegistry::LoadAnew(const QString& name, QWidget* owner)
+{
+    Form* loaded = Find(name);
+    return loaded ? RunLoad(name, loaded) : Load(name, owner);
+}
+
+Form* WindowRegistry::RunLoad(const QString& name, Form* form)
+{
     try {
         form->OnLoad();
     } catch (...) {

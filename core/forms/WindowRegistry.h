@@ -26,6 +26,9 @@ public:
     /// window is known. What OnLoad throws leaves the window unloaded and comes out here.
     Form* Load(const QString& name, QWidget* owner);
 
+    /// Load; a window that is loaded already begins anew by its OnLoad, and is unloaded when that throws.
+    Form* LoadAnew(const QString& name, QWidget* owner);
+
     /// Load, then show it in front with the keyboard.
     Form* Show(const QString& name, QWidget* owner);
 
@@ -42,6 +45,8 @@ public:
     void DropAll();
 
 private:
+    Form* RunLoad(const QString& name, Form* form);
+
     struct ModalLoop {
         Form* form;
         QEventLoop* loop;

@@ -131,6 +131,45 @@ TEST_F(Grid, TheKeyIsSubItemOneOfTheSelectedRow)
     EXPECT_EQ(Headers().size(), 3);
 }
 
+TEST_F(Grid, TheMarkedRowIsTheOneThatTheArrowKeysReach)
+{
+    TwoRows();
+    list->SelectRow(0);
+    list->setFocus();
+    const auto marked = [this] {
+        QList<int> rows;
+        const auto selected = list->selectionModel()->selectedIndexes();
+        for (const QModelIndex& index : selected) {
+            if (!rows.contains(index.row()))
+                rows << index.row();
+        }
+        return rows;
+    };
+    EXPECT_EQ(marked(), QList<int>{0});
+    Press(Qt::Key_Down);
+    EXPECT_EQ(list->SelectedRow(), 1);
+    EXPECT_EQ(marked(), QList<int>{1});
+    Press(Qt::Key_Up);
+    EXPECT_EQ(marked(), QList<int>{0});
+}
+
+TEST_F(Grid, ACurrentRowIsNotSelectedUntilAnArrowKeyTakesIt)
+{
+    QSignalSpy chosen(list, &ListGrid::RowChosen);
+    TwoRows();
+    list->setFocus();
+    for (const Qt::Key arrow : {Qt::Key_Down, Qt::Key_Up}) {
+        list->SelectRow(0);
+        list->MakeCurrent(1);
+        EXPECT_EQ(list->SelectedRow(), -1);
+        EXPECT_EQ(list->SelectedKey(), QString());
+        Press(Qt::Key_Return);
+        Press(arrow);
+        EXPECT_EQ(list->SelectedRow(), 1);
+    }
+    EXPECT_EQ(chosen.size(), 0);
+}
+
 TEST_F(Grid, EnterAndDoubleClickChooseARow)
 {
     QSignalSpy chosen(list, &ListGrid::RowChosen);

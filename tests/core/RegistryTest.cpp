@@ -1,7 +1,7 @@
 #include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 #include "core/forms/Fields.h"
-#include "core/forms/RecordForms.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/session/Session.h"
 #include "tests/core/ProbeForm.h"
 #include "tests/support/WindowTest.h"
@@ -292,14 +292,6 @@ TEST_F(Registry, AFunctionWindowIsOwnedByTheMainWindow)
     EXPECT_FALSE(window->isModal());
 }
 
-TEST_F(Registry, AListKnowsItsEditWindow)
-{
-    EXPECT_EQ(RecordFormOf(u"Sales"_s), u"frmSales"_s);
-    EXPECT_EQ(RecordFormOf(u"PRDList"_s), u"frmPRDList"_s);
-    EXPECT_EQ(RecordFormOf(u"Store"_s), QString());
-    EXPECT_EQ(RecordFormOf(QString()), QString());
-}
-
 TEST_F(Registry, TheStallsSettlementIsTheLayoutOfItsStyle)
 {
     for (const QString& style : {QString(), u"0"_s, u"2"_s, u"A"_s}) {
@@ -320,14 +312,13 @@ TEST_F(Registry, ARecordIsLoadedByItsKeyBeforeItsWindowIsSeen)
             WriteText(key, text);
         };
     });
-    EditRecord(u"Sales"_s, u"07"_s);
+    ShowRecord(u"frmSales"_s, u"07"_s);
     WaitFor([] { return FocusName() == u"txtSalesID"; });
     EXPECT_EQ(TextOf(u"frmSales"_s, u"txtSalesID"_s), u"07"_s);
     EXPECT_EQ(Find(u"frmSales"_s, u"txtSalesID"_s)->selectedText(), u"07"_s);
 
-    EditRecord(u"Store"_s, u"07"_s);
     boxes.Expect(u"此功能在本版本中尚未提供。"_s);
-    EditRecord(u"FeeType"_s, u"07"_s);
+    ShowRecord(u"frmFeeType"_s, u"07"_s);
 }
 
 TEST_F(Registry, AnEditWindowThatClosesOnLoadingIsNotLoadedTwice)
@@ -339,7 +330,7 @@ TEST_F(Registry, AnEditWindowThatClosesOnLoadingIsNotLoadedTwice)
             form.close();
         };
     });
-    EditRecord(u"Sales"_s, u"07"_s);
+    ShowRecord(u"frmSales"_s, u"07"_s);
     EXPECT_EQ(loads, 1);
 }
 
@@ -348,7 +339,7 @@ TEST_F(Registry, AKeyThatCannotBeReadLeavesTheEditWindowOpenToSee)
     RegisterProbe(u"frmSales"_s, [](ProbeForm& form) {
         form.onKey = [](const QString&) { throw RunTimeError(u"坏了"_s); };
     });
-    EXPECT_THROW(EditRecord(u"Sales"_s, u"'"_s), RunTimeError);
+    EXPECT_THROW(ShowRecord(u"frmSales"_s, u"'"_s), RunTimeError);
     ASSERT_NE(Windows().Find(u"frmSales"_s), nullptr);
     EXPECT_TRUE(Windows().Find(u"frmSales"_s)->Widget()->isVisible());
 }

@@ -1,4 +1,5 @@
 #include "core/gateway/DataGateway.h"
+#include "tests/support/MenuCatalogue.h"
 #include "tests/support/WindowTest.h"
 
 #include <map>
@@ -226,14 +227,15 @@ TEST_F(Schema, CalendarDayAndBusinessDayOfATicketAreTwoColumns)
 
 TEST_F(Schema, ANewDatabaseHoldsTheRowsTheSystemNeeds)
 {
+    const auto entries = static_cast<int>(MenuCatalogue().size());
     const std::map<QString, int> rows{
-        {u"Sys_Define"_s, 1},    {u"DFN_Paper"_s, 6},    {u"DFN_Round"_s, 2},
-        {u"DFN_CheckFee"_s, 2},  {u"DFN_SaleType"_s, 2}, {u"DFN_CheckOutLabel"_s, 9},
-        {u"DFN_RptTitle"_s, 19}, {u"DFN_RptCol"_s, 258}, {u"DRptFont"_s, 1},
-        {u"Menu_List"_s, 44},    {u"User_List"_s, 1},    {u"User_Menu"_s, 44},
-        {u"Count_Bill"_s, 0},    {u"Store"_s, 0},        {u"Sales"_s, 0},
-        {u"PRD_Sort"_s, 0},      {u"Fee_Type"_s, 0},     {u"Cust_List"_s, 0},
-        {u"DFN_Pack"_s, 0},      {u"Sal_List"_s, 0},     {u"ErrInfo"_s, 0}};
+        {u"Sys_Define"_s, 1},      {u"DFN_Paper"_s, 6},    {u"DFN_Round"_s, 2},
+        {u"DFN_CheckFee"_s, 2},    {u"DFN_SaleType"_s, 2}, {u"DFN_CheckOutLabel"_s, 9},
+        {u"DFN_RptTitle"_s, 19},   {u"DFN_RptCol"_s, 258}, {u"DRptFont"_s, 1},
+        {u"Menu_List"_s, entries}, {u"User_List"_s, 1},    {u"User_Menu"_s, entries},
+        {u"Count_Bill"_s, 0},      {u"Store"_s, 0},        {u"Sales"_s, 0},
+        {u"PRD_Sort"_s, 0},        {u"Fee_Type"_s, 0},     {u"Cust_List"_s, 0},
+        {u"DFN_Pack"_s, 0},        {u"Sal_List"_s, 0},     {u"ErrInfo"_s, 0}};
     for (const auto& [table, count] : rows)
         EXPECT_EQ(Count(table), count) << table.toStdString();
 
@@ -256,8 +258,13 @@ TEST_F(Schema, ANewDatabaseHoldsTheRowsTheSystemNeeds)
     EXPECT_EQ(Value(u"SELECT GROUP_CONCAT(CONCAT(FeeID,CountID) ORDER BY FeeID) FROM DFN_CheckFee"_s),
               u"F010,F020"_s);
     EXPECT_EQ(Count(u"Menu_List"_s, u"MenuName IN ('menuHelp','menuAbout')"_s), 0);
-    EXPECT_EQ(Value(u"SELECT COUNT(DISTINCT MenuText) FROM Menu_List"_s), u"44"_s);
-    EXPECT_EQ(Count(u"User_Menu"_s, u"UserID='01' And MenuName IN (SELECT MenuName FROM Menu_List)"_s), 44);
+    QStringList catalogue;
+    for (const QStringList& row : Db().Rows(u"SELECT MenuName,MenuText FROM Menu_List ORDER BY MenuID"_s))
+        catalogue << row.join(u' ');
+    EXPECT_EQ(catalogue, MenuCatalogue());
+    EXPECT_EQ(Count(u"(SELECT DISTINCT MenuText FROM Menu_List) captions"_s), entries);
+    EXPECT_EQ(Count(u"User_Menu"_s, u"UserID='01' And MenuName IN (SELECT MenuName FROM Menu_List)"_s),
+              entries);
 }
 
 TEST_F(Schema, ReportColumnsAllShowInTheOrderOfTheirFigures)

@@ -155,14 +155,28 @@ TEST_F(DataList, TheFirstRowIsCurrentAfterEachRebuildAndGivesTheKey)
     AddThreeLots();
     OpenList();
     Form* list = Windows().Find(u"frmDataList"_s);
-    EXPECT_EQ(list->SelectedKey(), u"B-001"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s);
     Press(Qt::Key_Down);
-    EXPECT_EQ(list->SelectedKey(), u"A-002"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"A-002"_s);
     list->RefreshList();
-    EXPECT_EQ(list->SelectedKey(), u"B-001"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s);
     Db().Run(u"DELETE FROM PRD_List"_s);
     list->RefreshList();
-    EXPECT_EQ(list->SelectedKey(), std::nullopt);
+    EXPECT_EQ(List()->SelectedRow(), -1);
+}
+
+TEST_F(DataList, WithoutARowOfSettingsTheListOpensNewestFirstInTheShortForm)
+{
+    AddThreeLots();
+    Db().Run(u"DELETE FROM Sys_Define"_s);
+    OpenList();
+    EXPECT_EQ(Numbers(), (QStringList{u"B-001"_s, u"A-002"_s, u"C-001"_s}));
+    EXPECT_EQ(Headers().size(), 11);
+    Press(Qt::Key_F10, Qt::ShiftModifier);
+    ASSERT_TRUE(Popup()->isVisible());
+    EXPECT_TRUE(Entry(u"mnuOrderByDate"_s)->isChecked());
+    EXPECT_FALSE(Entry(u"mnuShowEStore"_s)->isChecked());
+    Popup()->close();
 }
 
 TEST_F(DataList, DoubleClickAndEnterOpenTheLotForCorrection)
@@ -360,7 +374,7 @@ TEST_F(DataList, FiveHundredLotsStandInTheList)
     OpenList();
     EXPECT_EQ(List()->RowCount(), 500);
     EXPECT_EQ(TakeStatements().size(), 502);
-    EXPECT_EQ(Windows().Find(u"frmDataList"_s)->SelectedKey(), List()->SubItem(0, 1));
+    EXPECT_EQ(List()->SelectedKey(), List()->SubItem(0, 1));
 }
 
 namespace {

@@ -4,10 +4,10 @@
 #include "core/forms/ListGrid.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
-#include "goods/frmDataList.h"
 #include "goods/frmPRDList.h"
 #include "goods/frmSearchPRD.h"
 #include "goods/frmTemp.h"
+#include "lists/frmDataList.h"
 
 #include <QApplication>
 #include <QClipboard>

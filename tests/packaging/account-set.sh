@@ -20,7 +20,7 @@ checking "company, department and first user are stored as given, quotes and bac
 "${make[@]}" --database A --company "老'王\\果\"行" --department "一部; DROP" --first-user "A7:老板:p'w\\"
 same "names" "老'王\\果\"行|一部; DROP" "$(sql A "SELECT CONCAT_WS('|',CompName,DepartName) FROM Sys_Define")"
 same "user" "A7|老板|p'w\\|1" "$(sql A "SELECT CONCAT_WS('|',UserID,UserName,UserPWD,bolEdit) FROM User_List")"
-same "his rights" 44 "$(sql A "SELECT COUNT(*) FROM User_Menu WHERE UserID='A7'")"
+same "his rights" "$(sql A "SELECT COUNT(*) FROM Menu_List")" "$(sql A "SELECT COUNT(*) FROM User_Menu WHERE UserID='A7'")"
 same "others' rights" 0 "$(sql A "SELECT COUNT(*) FROM User_Menu WHERE UserID<>'A7'")"
 
 checking "the default is Orvane_PUB with user 01"
@@ -69,7 +69,7 @@ same "database users" "till@localhost" "$(users)"
 checking "passwords may come by the environment"
 ORVANE_APP_PASSWORD=geheim "${make[@]}" --database P2 --app-user till2 --ini "$work/p2.ini"
 same "PWD" "PWD=geheim" "$(grep '^PWD' "$work/p2.ini")"
-same "rows" 44 "$(MYSQL_PWD=geheim mariadb --no-defaults --socket="$socket" --user=till2 -BN P2 -e 'SELECT COUNT(*) FROM Menu_List')"
+same "rows" "$(sql P2 "SELECT COUNT(*) FROM Menu_List")" "$(MYSQL_PWD=geheim mariadb --no-defaults --socket="$socket" --user=till2 -BN P2 -e 'SELECT COUNT(*) FROM Menu_List')"
 sql mysql "DROP USER till2@localhost; DROP DATABASE P2"
 
 checking "a failure half way takes away what was made, and only that"

@@ -2,6 +2,7 @@
 #include "core/common/Handlers.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
+#include "tests/support/MenuCatalogue.h"
 #include "tests/support/WindowTest.h"
 
 #include <QApplication>
@@ -399,7 +400,7 @@ TEST_F(ClearingWindow, TheInstallationsFileListsTablesThatAreThereAndClearsThemA
         EXPECT_EQ(Count(table), 0) << table.toStdString();
     }
     EXPECT_EQ(Count(u"User_List"_s), 1);
-    EXPECT_EQ(Count(u"User_Menu"_s), 44);
+    EXPECT_EQ(Count(u"User_Menu"_s), MenuCatalogue().size());
     EXPECT_EQ(Count(u"DFN_Pack"_s), 1);
 }
 

@@ -1,7 +1,8 @@
 #include "app/StartProgram.h"
 #include "core/common/Lookups.h"
+#include "core/forms/MenuTable.h"
 #include "core/session/Session.h"
-#include "shell/MenuTable.h"
+#include "tests/support/MenuCatalogue.h"
 #include "tests/support/WindowTest.h"
 
 #include <QAction>
@@ -23,7 +24,7 @@ const QString RightOf = u"SELECT MenuName FROM User_Menu WHERE UserID='%1' And M
 const QString Insert = u"INSERT INTO User_Menu (UserID,MenuName) VALUES ('%1','%2')"_s;
 const QString AllRights =
     u"SELECT UserID,MenuName FROM User_Menu WHERE UserID<>'01' ORDER BY UserID,MenuName"_s;
-constexpr int Entries = 44;
+const int Entries = static_cast<int>(MenuCatalogue().size());
 
 /// Three users; the catalogue is whole, or has three entries where a test counts statements.
 class RightsWindow : public WindowTest {

@@ -1,7 +1,7 @@
 #include "app/StartProgram.h"
+#include "core/forms/MenuTable.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
-#include "shell/MenuTable.h"
 #include "tests/support/WindowTest.h"
 
 #include <QAction>

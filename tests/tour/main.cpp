@@ -3,6 +3,7 @@
 
 #include "app/StartProgram.h"
 #include "core/base/ProgramFiles.h"
+#include "core/forms/MenuTable.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
@@ -10,7 +11,6 @@
 #include "printing/Documents.h"
 #include "printing/PrintQueue.h"
 #include "settlement/frmDebit.h"
-#include "shell/MenuTable.h"
 #include "tests/support/Keys.h"
 #include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"

@@ -1,4 +1,4 @@
-#include "shell/MenuTable.h"
+#include "core/forms/MenuTable.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,7 +16,7 @@ const std::vector<TopMenu>& MenuBar()
           {u"menuChangePWD"_s, u"修改密码"_s, u"ChangePWD"_s, u"frmChangePWD"_s}}},
         {u"M02"_s,
          u"货源箱筐"_s,
-         {{u"menuPRDList"_s, u"货源登记"_s, u"PRDList"_s, u"frmDataList"_s},
+         {{u"menuPRDList"_s, u"货源登记"_s, u"PRDList"_s, u"frmDataList"_s, {u"mnuPrint"_s, u"mnuSearch"_s}},
           {u"menuEStore"_s, u"库存变更"_s, u"EStore"_s, u"frmEStore"_s},
           {u"menuRptEStore"_s, u"库存变更明细表"_s, u"RptEStore"_s, u"frmSearchCond"_s},
           {u"menuRptCustSale"_s, u"销售统计"_s, QString(), QString()},
@@ -25,11 +25,11 @@ const std::vector<TopMenu>& MenuBar()
           {u"menuRptPackList"_s, u"箱筐变更明细表"_s, u"RptPackList"_s, u"frmSearchCond"_s}}},
         {u"M03"_s,
          u"销售收银"_s,
-         {{u"menuSale"_s, u"收银开票"_s, u"Sale"_s, u"frmSale"_s},
-          {u"menuRptSaleDetail"_s, u"收银查帐"_s, u"RptSaleDetail"_s, u"frmSearchCond"_s},
-          {u"menuESale"_s, u"收银调整"_s, u"ESale"_s, u"frmListNO"_s},
+         {{u"menuSale"_s, u"收银开票"_s, u"Sale"_s, u"frmSale"_s, {}, u"frmSale"_s},
+          {u"menuRptSaleDetail"_s, u"收银查帐"_s, u"RptSaleDetail"_s, u"frmSearchCond"_s, {}, u"frmSale"_s},
+          {u"menuESale"_s, u"收银调整"_s, u"ESale"_s, u"frmListNO"_s, {}, u"frmSale"_s},
           {u"menuForegift"_s, u"销售退箱"_s, u"Foregift"_s, u"frmForegift"_s},
-          {u"menuRptForegift"_s, u"退箱明细表"_s, u"RptForegift"_s, u"frmSearchCond"_s}}},
+          {u"menuRptForegift"_s, u"退箱明细表"_s, u"RptForegift"_s, u"frmSearchCond"_s, {u"mnuDelete"_s}}}},
         {u"menuDeal"_s,
          u"销售结算"_s,
          {{u"menuCheckOut"_s, u"客户结算"_s, u"CheckOut"_s, u"frmCheckOut"_s},
@@ -37,7 +37,12 @@ const std::vector<TopMenu>& MenuBar()
           {u"menuECheckOut"_s, u"结算调整"_s, u"ECheckOut"_s, u"frmListNO"_s},
           {u"menuDelCheckOut"_s, u"结算退回"_s, u"DelCheckOut"_s, u"frmDelCheckOut"_s},
           {u"menuDebit"_s, u"客户预支"_s, u"Debit"_s, u"frmDebit"_s},
-          {u"menuCheckCheque"_s, u"应收款结算"_s, u"CheckCheque"_s, u"frmCheckCheque"_s}}},
+          {u"menuCheckCheque"_s,
+           u"应收款结算"_s,
+           u"CheckCheque"_s,
+           u"frmCheckCheque"_s,
+           {},
+           u"frmCheckCheque"_s}}},
         {u"menuFeeManage"_s,
          u"费用管理"_s,
          {{u"menuFeeType"_s, u"费用类别"_s, u"FeeType"_s, u"frmDataList"_s},
@@ -51,8 +56,13 @@ const std::vector<TopMenu>& MenuBar()
           {u"menuRptCheckOutDescribe"_s, u"结算情况统计表"_s, u"RptCheckOutDescribe"_s, u"frmSearchCond"_s},
           {u"menuRptUnCheckOut"_s, u"待结算明细表"_s, u"RptUnCheckOut"_s, u"frmSearchCond"_s},
           {u"menuRptDebit"_s, u"客户预支明细表"_s, u"RptDebit"_s, u"frmSearchCond"_s},
-          {u"menuRptCheque"_s, u"应收款收款表"_s, u"RptCheque"_s, u"frmSearchCond"_s},
-          {u"menuRptCheckCheque"_s, u"应收款结算表"_s, u"RptCheckCheque"_s, u"frmSearchCond"_s},
+          {u"menuRptCheque"_s, u"应收款收款表"_s, u"RptCheque"_s, u"frmSearchCond"_s, {}, u"frmSearchCond"_s},
+          {u"menuRptCheckCheque"_s,
+           u"应收款结算表"_s,
+           u"RptCheckCheque"_s,
+           u"frmSearchCond"_s,
+           {},
+           u"frmSearchCond"_s},
           {u"menuRptSales"_s, u"销售业绩表"_s, u"RptSales"_s, u"frmSearchCond"_s},
           {u"menuRptDaySale"_s, u"库存盘点日报表"_s, u"RptDaySale"_s, u"frmSearchCond"_s},
           {u"menuRptDayCust"_s, u"销售盘点表"_s, u"RptDayCust"_s, u"frmSearchCond"_s},
@@ -71,14 +81,15 @@ const std::vector<TopMenu>& MenuBar()
     return bar;
 }
 
-const std::vector<ToolbarButton>& Toolbar()
+const MenuEntry* MenuEntryOf(const QString& key)
 {
-    static const std::vector<ToolbarButton> buttons{
-        {u"mnuNew"_s, u"新建"_s, u"Ctrl+N"_s},     {u"mnuSave"_s, u"保存"_s, QString()},
-        {u"mnuPreview"_s, u"预览"_s, u"Ctrl+R"_s}, {u"mnuPrint"_s, u"打印"_s, u"Ctrl+P"_s},
-        {u"mnuEdit"_s, u"修改"_s, u"Ctrl+E"_s},    {u"mnuSearch"_s, u"查询"_s, u"Ctrl+F"_s},
-        {u"mnuDelete"_s, u"删除"_s, u"Ctrl+D"_s},  {u"mnuExport"_s, u"导出"_s, u"Ctrl+T"_s},
-        {u"mnuHelp"_s, u"帮助"_s, u"F1"_s},        {u"mnuExit"_s, u"退出"_s, u"Ctrl+Q"_s},
-    };
-    return buttons;
+    if (key.isEmpty())
+        return nullptr;
+    for (const TopMenu& top : MenuBar()) {
+        for (const MenuEntry& entry : top.entries) {
+            if (entry.key == key)
+                return &entry;
+        }
+    }
+    return nullptr;
 }
