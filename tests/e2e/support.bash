@@ -130,8 +130,10 @@ window_goes() {
 }
 
 # The window manager has given it the keyboard, so that the next key goes there.
+# Behind its own title the main window bears that of an open list.
 is_in_front() {
-    [ "$(xdotool getactivewindow getwindowname 2>/dev/null)" = "$1" ]
+    local title
+    title=$(xdotool getactivewindow getwindowname 2>/dev/null) && [[ $title = "$1" || $title = "$1 - ["*] ]]
 }
 
 in_front() {
