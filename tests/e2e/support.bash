@@ -59,7 +59,7 @@ picture() {
 start_server() {
     socket=$("$packaging/local-server" start "$work/db" --fast)
     "$packaging/create-account-set" --socket "$socket" --database "$database" "$@"
-    connect_as root
+    [ -e "$program/Data/Data.ini" ] || connect_as root
 }
 
 # connect_as USER [PASSWORD]: what the program logs on to the server with.
