@@ -7,9 +7,9 @@
 #include <QPointer>
 #include <QWidget>
 
-void WindowRegistry::Register(const QString& name, Factory factory)
+void WindowRegistry::Register(const QString& name, const Factory& factory)
 {
-    m_factories.insert(name, std::move(factory));
+    m_factories.insert(name, factory);
 }
 
 Form* WindowRegistry::Load(const QString& name, QWidget* owner)

@@ -16,7 +16,7 @@ public:
     using Factory = std::function<Form*(QWidget* owner)>;
 
     /// Makes a window known. Its object name becomes the name.
-    void Register(const QString& name, Factory factory);
+    void Register(const QString& name, const Factory& factory);
     bool Knows(const QString& name) const { return m_factories.contains(name); }
 
     /// The window while it is loaded, shown or not; nullptr otherwise.
