@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -15,6 +16,24 @@ using namespace Qt::StringLiterals;
 const QString SystemTitle = u"系统提示"_s;
 
 namespace {
+
+/// What opens while a key is down, the Enter of a save for instance, is not answered by it: only by a
+/// key that is pressed anew.
+class HeldKeysIgnored : public QObject {
+public:
+    explicit HeldKeysIgnored(QWidget& box)
+    {
+        box.installEventFilter(this);
+        for (QWidget* control : box.findChildren<QWidget*>())
+            control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        return (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) ||
+               QObject::eventFilter(watched, event);
+    }
+};
 
 /// Message boxes on the active window, which gets the keyboard back afterwards.
 class BoxPresenter : public MessagePresenter {
@@ -82,6 +101,7 @@ private:
         Caption(box, QMessageBox::Ok, u"确定(&O)"_s);
         Caption(box, QMessageBox::Yes, u"是(&Y)"_s);
         Caption(box, QMessageBox::No, u"否(&N)"_s);
+        const HeldKeysIgnored fresh(box);
         const int answer = box.exec();
         if (below)
             below->activateWindow();

@@ -207,7 +207,8 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
     if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
         return false;
     if (const auto own = rule.m_onKey.find(key.key()); own != rule.m_onKey.end()) {
-        RunHandler(own->second);
+        if (!key.isAutoRepeat())
+            RunHandler(own->second);
         return true;
     }
     const auto* combo = qobject_cast<QComboBox*>(rule.m_control);
@@ -215,7 +216,7 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // An Enter held down walks on through the fields, but does not save a second time.
+        // An Enter held down walks on through the fields, but does not save.
         if (!rule.m_onEnter || !key.isAutoRepeat())
             RunHandler([this, &rule] { MoveOn(rule, true); });
         return true;
