@@ -6,10 +6,12 @@
 #include "core/common/Messages.h"
 #include "core/forms/LabelButton.h"
 #include "core/forms/Skin.h"
+#include "core/forms/TextLine.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/session/Session.h"
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QCloseEvent>
 #include <QLineEdit>
 #include <QShortcut>
@@ -51,7 +53,10 @@ void FormWindow::OnPress(LabelButton* button, std::function<void()> action, cons
     const QKeySequence own = key.isEmpty() ? UsualKey(button) : key;
     if (!own.isEmpty())
         button->SetKey(own);
-    connect(button, &LabelButton::Pressed, this, [action = std::move(action)] { RunHandler(action); });
+    connect(button, &LabelButton::Pressed, this, [action] { RunHandler(action); });
+    connect(button, &LabelButton::PressedByKey, this, [this, button, action = std::move(action)] {
+        RunByKey(button, [action] { RunHandler(action); });
+    });
     connect(button, &LabelButton::Hovered, this, [this, button](bool over) {
         if (over)
             ShowHoverBox(button, m_hoverLines);
@@ -67,8 +72,20 @@ void FormWindow::OnPress(QAbstractButton* button, std::function<void()> action, 
     if (own.isEmpty())
         return;
     // A shortcut of the button itself would press it a tenth of a second late, behind what is typed next.
-    connect(new QShortcut(own, this), &QShortcut::activated, button, &QAbstractButton::click);
+    connect(new QShortcut(own, this), &QShortcut::activated, this, [this, button] {
+        if (button->isEnabled())
+            RunByKey(button, [button] { button->click(); });
+    });
     button->setToolTip(own.toString(QKeySequence::NativeText));
+}
+
+void FormWindow::RunByKey(const QWidget* button, const std::function<void()>& press)
+{
+    // Whoever closes the window wants nothing of the field looked up or tested.
+    if (button->objectName() == u"cmdCancel")
+        press();
+    else
+        m_chain.LeaveThen(press);
 }
 
 void FormWindow::Guarded(const QString& label, const std::function<void()>& routine)
@@ -104,6 +121,11 @@ void FormWindow::showEvent(QShowEvent* event)
     QWidget::showEvent(event);
     if (event->spontaneous())
         return;
+    for (QLineEdit* box : findChildren<QLineEdit*>()) {
+        if (!qobject_cast<QAbstractSpinBox*>(
+                box->parentWidget())) // those of dates and numbers see to themselves
+            TextLine::Of(box);
+    }
     if (parentWidget() && isWindow())
         move(parentWidget()->window()->geometry().center() - rect().center());
     m_chain.FocusFirst();

@@ -37,7 +37,8 @@ protected:
     KeyChain& Chain() { return m_chain; }
 
     /// A button's action. A label button gets its key: 确定 and 保存 Alt+S, 关闭 and 取消 Alt+C, unless
-    /// another is given.
+    /// another is given. A click leaves no field; the key first leaves the one with the focus as Enter
+    /// would, unless the button is cmdCancel, and presses nothing when that was refused.
     void OnPress(LabelButton* button, std::function<void()> action, const QKeySequence& key = {});
     /// A command button takes the focus and the same keys; its tool tip tells which.
     void OnPress(QAbstractButton* button, std::function<void()> action, const QKeySequence& key = {});
@@ -56,6 +57,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    void RunByKey(const QWidget* button, const std::function<void()>& press);
+
     SlotUse m_slot;
     KeyChain m_chain;
     HoverLines m_hoverLines{};

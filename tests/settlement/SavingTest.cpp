@@ -272,7 +272,7 @@ TEST_P(SettlementSave, WithoutALotTheWordsOfANegativeNetAreSaid)
 {
     OpenLayout();
     boxes.Expect(NothingLeft);
-    Save();
+    ClickSave();
     EXPECT_EQ(TakeStatements(), QStringList());
 }
 
@@ -315,7 +315,7 @@ TEST_P(SettlementSave, AnyFeeStillBlankIsAnErrorWithNothingWritten)
         Press(Qt::Key_Delete);
         TakeStatements();
         boxes.Expect(u"类型不匹配"_s);
-        Save(); // the field with the cursor is not completed by it
+        ClickSave(); // the field with the cursor is not completed by it
         EXPECT_EQ(Text(fee), QString()) << fee.toStdString();
         EXPECT_EQ(FocusName(), fee);
         const QStringList sent = TakeStatements();
