@@ -277,7 +277,7 @@ void frmMain::DeleteFromList(const QString& key)
     } else if (menuKey == u"CustList") {
         Gateway().DeleteRows(u"Cust_List"_s, u"CustName"_s + text);
     } else if (menuKey == u"PackSort") {
-        if (!AskYesNo(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s))
+        if (!AskBeforeDestroying(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s))
             return;
         Gateway().DeleteRows(u"Pack_List"_s, u"PackNo"_s + text + u" And bolCheck='0'"_s);
         Gateway().DeleteRows(u"DFN_Pack"_s, u"PackNo"_s + text);

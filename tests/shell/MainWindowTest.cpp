@@ -484,13 +484,13 @@ TEST_F(MainWindow, DeletingACrateTypeAsksAndLeavesItsClosedLedgerRows)
              "INSERT INTO Pack_List (PackNo,bolCheck) VALUES ('05','0'),('05','1'),('06','0')"_s);
     OpenFrame();
     Choose(u"menuPackSort"_s);
-    boxes.ExpectQuestion(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s, false);
+    boxes.ExpectDestroying(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s, false);
     Choose(u"mnuDelete"_s);
     EXPECT_EQ(Count(u"DFN_Pack"_s), 2);
     EXPECT_EQ(Count(u"Pack_List"_s), 3);
 
     TakeStatements();
-    boxes.ExpectQuestion(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s, true);
+    boxes.ExpectDestroying(u"所有箱筐变更记录也将被一同删除，确定要删除吗？"_s, true);
     Choose(u"mnuDelete"_s);
     EXPECT_EQ(TakeStatements(), (QStringList{u"DELETE FROM Pack_List WHERE PackNo='05' And bolCheck='0'"_s,
                                              u"DELETE FROM DFN_Pack WHERE PackNo='05'"_s}));
