@@ -4,6 +4,7 @@
 #include "core/common/ErrorLog.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
+#include "core/forms/Fields.h"
 #include "core/forms/LabelButton.h"
 #include "core/forms/Skin.h"
 #include "core/forms/TextLine.h"
@@ -14,7 +15,10 @@
 #include <QAbstractSpinBox>
 #include <QCloseEvent>
 #include <QLineEdit>
+#include <QScreen>
 #include <QShortcut>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -109,6 +113,18 @@ void FormWindow::GuardedUnlogged(const std::function<void()>& routine)
     }
 }
 
+bool FormWindow::Refuse(QWidget* field, const QString& why)
+{
+    ShowInfo(why);
+    FocusAndSelect(field);
+    return false;
+}
+
+void FormWindow::CloseThenShow(const QString& name)
+{
+    Windows().CloseThenShow(this, name, parentWidget());
+}
+
 QList<QLineEdit*> FormWindow::TextBoxes() const
 {
     QList<QLineEdit*> boxes = findChildren<QLineEdit*>();
@@ -128,7 +144,18 @@ void FormWindow::showEvent(QShowEvent* event)
     }
     if (parentWidget() && isWindow())
         move(parentWidget()->window()->geometry().center() - rect().center());
+    if (isWindow())
+        StayOnScreen();
     m_chain.FocusFirst();
+}
+
+void FormWindow::StayOnScreen()
+{
+    constexpr int title = 30; // pixels: the frame is not there yet
+    const QRect room = screen()->availableGeometry();
+    const int x = std::max(room.left(), std::min(pos().x(), room.right() - width()));
+    const int y = std::max(room.top(), std::min(pos().y(), room.bottom() - height() - title));
+    move(x, y);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event)

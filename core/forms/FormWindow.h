@@ -50,6 +50,14 @@ protected:
     /// The same without a row in ErrInfo, for the routines that have no label.
     void GuardedUnlogged(const std::function<void()>& routine);
 
+    /// Says why a field is refused and puts the cursor into it, its text selected. Always false, so that a
+    /// check reads `return Refuse(...)`.
+    bool Refuse(QWidget* field, const QString& why);
+
+    /// Closes this window, which has done its work, and shows another once the handler under way is over:
+    /// a prompt that comes back after each bill. It is not shown when this one stays open.
+    void CloseThenShow(const QString& name);
+
     /// The text boxes of the form in their order, without those inside other controls.
     QList<QLineEdit*> TextBoxes() const;
 
@@ -57,6 +65,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// Keeps the window, its upper left corner first, on its screen.
+    void StayOnScreen();
     void RunByKey(const QWidget* button, const std::function<void()>& press);
 
     SlotUse m_slot;
