@@ -349,6 +349,16 @@ void KeyChain::Left(FieldRule& rule)
         rule.m_onLeave();
 }
 
+QList<QLineEdit*> KeyChain::NumericFields() const
+{
+    QList<QLineEdit*> boxes;
+    for (const auto& rule : m_rules) {
+        if (rule->m_numericMessage)
+            boxes << static_cast<QLineEdit*>(rule->m_control);
+    }
+    return boxes;
+}
+
 void KeyChain::FocusFirst()
 {
     for (const auto& rule : m_rules) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -116,6 +117,9 @@ public:
     /// (lookup, test, format), then `action`, unless the control refused by asking the focus back or by a
     /// failure. Moving the focus on, as the action may, does not leave the control a second time.
     void LeaveThen(const std::function<void()>& action);
+
+    /// The boxes with a numeric test, in their order.
+    QList<QLineEdit*> NumericFields() const;
 
     /// Puts the focus on the first control of the chain.
     void FocusFirst();
