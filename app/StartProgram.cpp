@@ -5,6 +5,7 @@
 #include "core/base/ProgramFiles.h"
 #include "core/base/RunTimeError.h"
 #include "core/common/Messages.h"
+#include "core/forms/ProgressWindow.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/logon/frmDBC.h"
 #include "core/logon/frmLogon.h"
@@ -23,13 +24,12 @@
 #include "printing/frmPrint.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
+#include "settlement/frmSetFeeLabel.h"
 #include "shell/frmAbout.h"
 #include "shell/frmChangePWD.h"
 #include "shell/frmDataClear.h"
 #include "shell/frmMain.h"
 #include "shell/frmParameter.h"
-#include "shell/frmScroll.h"
-#include "shell/frmSetFeeLabel.h"
 #include "shell/frmUserList.h"
 #include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
@@ -58,7 +58,7 @@ void RegisterWindows()
     Add<frmUserMenu>(u"frmUserMenu"_s);
     Add<frmChangePWD>(u"frmChangePWD"_s);
     Add<frmDataClear>(u"frmDataClear"_s);
-    Add<frmScroll>(u"frmScroll"_s);
+    Add<ProgressWindow>(u"frmScroll"_s);
     Add<frmParameter>(u"frmParameter"_s);
     Add<frmSetFeeLabel>(u"frmSetFeeLabel"_s);
     Add<frmStore>(u"frmStore"_s);

@@ -205,7 +205,8 @@ void Workstation::SaveTickets(int tickets, bool isWarmUp)
 void Workstation::PrintTickets(int tickets)
 {
     EnterTicket();
-    Print(TicketDocument, tickets, [] { Documents().PrintSaleList(false, true); });
+    const QWidget& form = *Windows().Find(u"frmSale"_s)->Widget();
+    Print(TicketDocument, tickets, [&form] { PrintDocument(Document::SaleList, u"2"_s, form); });
 }
 
 void Workstation::PrintSettlements(int settlements)
@@ -217,7 +218,8 @@ void Workstation::PrintSettlements(int settlements)
     Settle();
     if (Find<QLineEdit>(window, u"txtCustName"_s)->text().isEmpty())
         GiveUp(u"the settlement found no lot"_s);
-    Print(SettlementDocument, settlements, [] { Documents().PrintCheckOut(false, true); });
+    const QWidget& form = *Windows().Find(window)->Widget();
+    Print(SettlementDocument, settlements, [&form] { PrintDocument(Document::CheckOut, u"2"_s, form); });
     CloseWindow(window);
 }
 

@@ -6,7 +6,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Kind = ListColumn::Kind;
+using Kind = SheetColumn::Kind;
 
 // Widths in twips, for the list's font: a Chinese character takes 225, a Latin one 125, and the cell's
 // margins 180.
@@ -16,19 +16,6 @@ constexpr int Date = 1440;
 constexpr int Quantity = 1170;
 constexpr int WideQuantity = 1440;
 constexpr int Mark = 810;
-
-Qt::Alignment AlignmentOf(Kind kind)
-{
-    switch (kind) {
-    case Kind::Number:
-        return Qt::AlignRight;
-    case Kind::Flag:
-        return Qt::AlignHCenter;
-    case Kind::Text:
-        break;
-    }
-    return Qt::AlignLeft;
-}
 
 } // namespace
 
@@ -73,36 +60,27 @@ const RecordTable* RecordTableOf(const QString& menuKey)
     return found == tables.cend() ? nullptr : &*found;
 }
 
-std::vector<ListColumn> LotColumns(bool detailed)
+std::vector<SheetColumn> LotColumns(bool detailed)
 {
-    std::vector<ListColumn> columns{
+    std::vector<SheetColumn> columns{
         {u"编号"_s, LotNumber}, {u"快捷编号"_s, Quantity}, {u"品名"_s, Name},
         {u"姓名"_s, Name},      {u"到货日期"_s, Date},
     };
-    const std::vector<ListColumn> figures =
-        detailed ? std::vector<ListColumn>{{u"首次到货"_s, Quantity, Kind::Number},
-                                           {u"累计进货"_s, Quantity, Kind::Number},
-                                           {u"总到货量"_s, Quantity, Kind::Number},
-                                           {u"累计转出"_s, Quantity, Kind::Number},
-                                           {u"累计损耗"_s, Quantity, Kind::Number},
-                                           {u"实到货量"_s, Quantity, Kind::Number},
-                                           {u"累计销售"_s, Quantity, Kind::Number},
-                                           {u"库存"_s, Quantity, Kind::Number}}
-                 : std::vector<ListColumn>{{u"首次到货量"_s, WideQuantity, Kind::Number},
-                                           {u"总到货量"_s, WideQuantity, Kind::Number},
-                                           {u"库存"_s, WideQuantity, Kind::Number}};
+    const std::vector<SheetColumn> figures =
+        detailed ? std::vector<SheetColumn>{{u"首次到货"_s, Quantity, Kind::Number},
+                                            {u"累计进货"_s, Quantity, Kind::Number},
+                                            {u"总到货量"_s, Quantity, Kind::Number},
+                                            {u"累计转出"_s, Quantity, Kind::Number},
+                                            {u"累计损耗"_s, Quantity, Kind::Number},
+                                            {u"实到货量"_s, Quantity, Kind::Number},
+                                            {u"累计销售"_s, Quantity, Kind::Number},
+                                            {u"库存"_s, Quantity, Kind::Number}}
+                 : std::vector<SheetColumn>{{u"首次到货量"_s, WideQuantity, Kind::Number},
+                                            {u"总到货量"_s, WideQuantity, Kind::Number},
+                                            {u"库存"_s, WideQuantity, Kind::Number}};
     columns.insert(columns.end(), figures.begin(), figures.end());
     columns.insert(
         columns.end(),
         {{u"折算"_s, 900, Kind::Number}, {u"押包"_s, Mark, Kind::Flag}, {u"锁定"_s, Mark, Kind::Flag}});
     return columns;
-}
-
-std::vector<ListGrid::Column> GridColumns(const std::vector<ListColumn>& columns)
-{
-    std::vector<ListGrid::Column> grid;
-    grid.reserve(columns.size());
-    for (const ListColumn& column : columns)
-        grid.push_back({column.header, column.widthTwips, AlignmentOf(column.kind)});
-    return grid;
 }

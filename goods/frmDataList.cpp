@@ -4,11 +4,11 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/forms/RecordForms.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "goods/ListTables.h"
-#include "goods/LotStock.h"
 #include "ui_frmDataList.h"
 
 #include <QContextMenuEvent>
@@ -21,27 +21,18 @@ namespace {
 
 const QString LotsKey = u"PRDList"_s;
 
-double StockChange(const QString& lotId, const QString& type)
-{
-    return SumField(u"EStore_List"_s, u"Num"_s, u"ID='"_s + lotId + u"' And EStoreType='"_s + type + u"'"_s);
-}
-
 /// The figures of the short form: what came, and what is left as the lot itself keeps it.
 QStringList ShortFigures(const RecordSet& lot, const QString& lotId)
 {
-    const LotStock stock{.delivered = NullToZero(lot.Fields(5).Value), .added = StockChange(lotId, u"0"_s)};
+    const LotStock stock{.delivered = NullToZero(lot.Fields(5).Value), .added = SumAdded(lotId)};
     return {lot.Text(5), NumberText(stock.Arrived()), lot.Text(6)};
 }
 
 /// The figures of the detailed form, all from the movements.
 QStringList DetailedFigures(const RecordSet& lot, const QString& lotId)
 {
-    LotStock stock;
-    stock.delivered = NullToZero(lot.Fields(5).Value);
-    stock.added = StockChange(lotId, u"0"_s);
-    stock.movedOut = StockChange(lotId, u"1"_s);
-    stock.lost = StockChange(lotId, u"2"_s);
-    stock.sold = SumField(u"Sal_List"_s, u"Num"_s, u"ID='"_s + lotId + u"'"_s);
+    LotStock stock = ReadStockChanges(lotId, NullToZero(lot.Fields(5).Value));
+    stock.sold = SumSold(lotId);
     return {lot.Text(5),
             NumberText(stock.added),
             NumberText(stock.Arrived()),
@@ -131,7 +122,7 @@ bool frmDataList::eventFilter(QObject* watched, QEvent* event)
         const auto* key = static_cast<QKeyEvent*>(event);
         if (key->key() == Qt::Key_Menu ||
             (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier)) {
-            const QRect row = ui->lvDataList->visualItemRect(ui->lvDataList->currentItem());
+            const QRect row = ui->lvDataList->RowRect(ui->lvDataList->CurrentRow());
             RunHandler([this, row] {
                 ShowPopup(ui->lvDataList->viewport()->mapToGlobal(row.bottomLeft() + QPoint(40, 0)));
             });
@@ -155,11 +146,11 @@ void frmDataList::RefreshList()
     ui->lvDataList->SelectRow(0);
 }
 
-void frmDataList::ShowColumns(const QString& layout, const std::vector<ListColumn>& columns)
+void frmDataList::ShowColumns(const QString& layout, const std::vector<SheetColumn>& columns)
 {
     if (layout == m_layout)
         return;
-    ui->lvDataList->SetColumns(GridColumns(columns));
+    ui->lvDataList->SetColumns(columns);
     m_layout = layout;
 }
 
@@ -170,7 +161,7 @@ void frmDataList::FillRecords(const RecordTable& table)
     for (; !rows.Eof(); rows.MoveNext()) {
         QStringList texts;
         for (int i = 0; i < static_cast<int>(table.columns.size()); ++i) {
-            const bool isFlag = table.columns[static_cast<std::size_t>(i)].kind == ListColumn::Kind::Flag;
+            const bool isFlag = table.columns[static_cast<std::size_t>(i)].kind == SheetColumn::Kind::Flag;
             texts << (isFlag ? CheckMark(rows.Text(i)) : rows.Text(i));
         }
         ui->lvDataList->AddRow(texts);

@@ -8,7 +8,7 @@
 
 class QAction;
 class QMenu;
-struct ListColumn;
+struct SheetColumn;
 struct RecordTable;
 
 namespace Ui {
@@ -37,7 +37,7 @@ private:
     void ShowPopup(const QPoint& globalPosition);
     void SetOrder(const QString& order);
     /// Sets the columns, unless this layout stands already: dragged widths outlive a rebuild.
-    void ShowColumns(const QString& layout, const std::vector<ListColumn>& columns);
+    void ShowColumns(const QString& layout, const std::vector<SheetColumn>& columns);
     void FillRecords(const RecordTable& table);
     void FillLots();
     void EditRow(int row);

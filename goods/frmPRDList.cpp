@@ -11,7 +11,7 @@
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 #include "ui_frmPRDList.h"
 
 using namespace Qt::StringLiterals;
@@ -105,6 +105,17 @@ void frmPRDList::AssignLotNumber()
         Chain().ReturnTo(ui->txtPID);
         return;
     }
+    try {
+        ProposeLotNumber(pid);
+    } catch (...) {
+        ForgetLot();
+        Chain().ReturnTo(ui->txtPID);
+        throw;
+    }
+}
+
+void frmPRDList::ProposeLotNumber(const QString& pid)
+{
     const QString sortWhere = u"SortID="_s + Quoted(pid);
     const RecordSet sort = Gateway().SelectRows(u"PRD_Sort"_s, u"SortName,CurrNumber"_s, sortWhere);
     if (sort.Eof()) {
@@ -130,22 +141,32 @@ void frmPRDList::AssignLotNumber()
 
 void frmPRDList::LoadLotByNumber(const QString& number)
 {
-    // When the lookup fails the window must not be left correcting another lot.
     m_lotId.clear();
     m_isNewLot = true;
     if (number.isEmpty())
         return;
-    const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s,
-        u"PID,CustID,PRDName,Num,MPercent,CustInDate,Store,PArea,bolPack,CustName,CardNo,VerifyID,Address,"
-        "DebitPrice,Tel,Fax,Mobile,Memo,bolFixed,PerForegift,PRDNo_S,PackNo,ID"_s,
-        u"PRDNo="_s + Quoted(number) + u" And bolCheckOut='0'"_s);
-    if (lot.Eof())
-        return;
-    m_isNewLot = false;
-    ShowLot(lot);
+    try {
+        const RecordSet lot = Gateway().SelectRows(
+            u"PRD_List"_s,
+            u"PID,CustID,PRDName,Num,MPercent,CustInDate,Store,PArea,bolPack,CustName,CardNo,VerifyID,"
+            "Address,DebitPrice,Tel,Fax,Mobile,Memo,bolFixed,PerForegift,PRDNo_S,PackNo,ID"_s,
+            u"PRDNo="_s + Quoted(number) + u" And bolCheckOut='0'"_s);
+        if (lot.Eof())
+            return;
+        m_isNewLot = false;
+        ShowLot(lot);
+    } catch (...) {
+        ForgetLot();
+        throw;
+    }
     // It stays locked until the window is closed, after the save too.
     Lock(ui->txtPID);
+}
+
+void frmPRDList::ForgetLot()
+{
+    for (QLineEdit* box : {ui->txtPID, ui->txtCustID, ui->txtPRDName, ui->txtPRDNo})
+        WriteText(box, QString());
 }
 
 void frmPRDList::ShowLot(const RecordSet& lot)

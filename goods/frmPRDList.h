@@ -32,8 +32,12 @@ private:
     void ChainOwner();
 
     void AssignLotNumber();
+    void ProposeLotNumber(const QString& pid);
     void LoadLotByNumber(const QString& number);
     void ShowLot(const RecordSet& lot);
+    /// A lookup that failed half way leaves no number, new or another lot's, and without a sort nothing
+    /// is saved.
+    void ForgetLot();
     void CheckStore();
 
     void SaveLot();

@@ -37,12 +37,16 @@ void CodeTableForm::SetKey(const QString& key)
 
 void CodeTableForm::LookUp()
 {
-    m_isFound = false; // also when the lookup fails: an update of a missing row would save nothing
+    // Also when the lookup fails: an update of a missing row would save nothing, and the name on the
+    // screen would go in under the new key.
+    m_isFound = false;
+    m_controls.name->clear();
     const RecordSet row =
         Gateway().SelectRows(m_table.table, m_table.nameColumn,
                              m_table.keyColumn + u"='"_s + m_controls.key->text().trimmed() + u"'"_s);
     m_isFound = !row.Eof();
-    m_controls.name->setText(m_isFound ? row.Text(0) : QString());
+    if (m_isFound)
+        m_controls.name->setText(row.Text(0));
 }
 
 void CodeTableForm::Save()

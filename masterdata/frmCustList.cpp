@@ -53,14 +53,15 @@ void frmCustList::LookUp()
 {
     if (ui->txtCustName->text().isEmpty())
         return;
-    m_isFound = false; // also when the lookup fails: an update of a missing row would save nothing
+    // Also when the lookup fails: an update of a missing row would save nothing, and the address and the
+    // limit on the screen would go in under the new name.
+    m_isFound = false;
+    ClearBuyer();
     const RecordSet row = Gateway().SelectRows(u"Cust_List"_s, Columns,
                                                u"CustName='"_s + ui->txtCustName->text().trimmed() + u"'"_s);
     m_isFound = !row.Eof();
     if (m_isFound)
         ShowBuyer(row);
-    else
-        ClearBuyer();
 }
 
 // The name is left as it is typed: the compare ignores a blank at its end, behind which more may come.

@@ -1,6 +1,6 @@
 #include "printing/DocumentRules.h"
 
-#include "core/forms/HoverBox.h"
+#include "core/base/Twips.h"
 #include "printing/clsPrint.h"
 
 #include <QComboBox>
@@ -9,6 +9,7 @@
 #include <QLineEdit>
 
 #include <algorithm>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -51,10 +52,9 @@ QString ArrayName(const QString& control)
     return control.section(u'_', 0, 0);
 }
 
-DocumentRules SlipRules(const QString& paperId, const QString& form, const QString& title)
+DocumentRules SlipRules(const QString& paperId, const QString& title)
 {
     return {.paperId = paperId,
-            .form = form,
             .title = title,
             .errorLabel = u"打印客户信息"_s,
             .stationery = {.printsLabel = None,
@@ -69,12 +69,11 @@ DocumentRules SlipRules(const QString& paperId, const QString& form, const QStri
                       .skipsHidden = false}};
 }
 
-DocumentRules SettlementRulesOf(const QString& form, const QString& lineName)
+DocumentRules SettlementRules(const QString& lineName)
 {
     // The rates stand in the print: these two names are none of the forms' boxes.
     const auto texts = AllBut({u"txtLSaniPer"_s, u"txtLUnloadPer"_s});
     return {.paperId = u"P05"_s,
-            .form = form,
             .title = u"结算清单"_s,
             .errorLabel = u"打印结算清单"_s,
             .stationery = {.printsLabel = Only({u"lblPriceUCase"_s, u"lblReportName"_s}),
@@ -88,6 +87,50 @@ DocumentRules SettlementRulesOf(const QString& form, const QString& lineName)
                       .text = {.takesTopArea = true},
                       .ruling = Ruling::Named,
                       .lineName = lineName,
+                      .line = {.takesTopArea = true},
+                      .hasBlankBehind = true,
+                      .endsWithNewPage = false}};
+}
+
+DocumentRules TicketRules()
+{
+    const auto texts = AllBut({u"txtRPrice"_s});
+    return {.paperId = u"P03"_s,
+            .title = u"收款清单"_s,
+            .errorLabel = u"打印收银清单"_s,
+            .stationery = {.printsLabel =
+                               Only({u"lblCustName"_s, u"lblReportName"_s, u"lblPArea"_s, u"lblTotal"_s}),
+                           .label = {.factor = TicketStretch, .takesTopArea = true},
+                           .printsText = texts,
+                           .text = {.factor = TicketStretch, .takesTopArea = true},
+                           .comboName = u"cmbSaleType"_s},
+            .sheet = {.printsLabel = AllBeginningOtherThan({u"cmd"_s, u"Flbl"_s}),
+                      .label = {.factor = TicketStretch},
+                      .printsText = texts,
+                      .text = {.factor = TicketStretch},
+                      .ruling = Ruling::Named,
+                      .lineName = u"Tline"_s,
+                      .line = {.factor = TicketStretch},
+                      .hasBlankBehind = true,
+                      .endsWithNewPage = false}};
+}
+
+DocumentRules AdvanceRules()
+{
+    return {.paperId = u"P04"_s,
+            .title = u"预支款登记单"_s,
+            .errorLabel = u"打印预支款清单"_s,
+            .stationery = {.printsLabel = Only({u"lblReportName"_s}),
+                           .label = {.factor = TicketStretch, .takesTopArea = true},
+                           .printsText = All,
+                           .text = {.takesTopArea = true},
+                           .hasBlankBehind = true},
+            .sheet = {.printsLabel = AllBeginningOtherThan({u"cmd"_s}),
+                      .label = {.takesTopArea = true},
+                      .printsText = All,
+                      .text = {.takesTopArea = true},
+                      .ruling = Ruling::Named,
+                      .lineName = u"Tline"_s,
                       .line = {.takesTopArea = true},
                       .hasBlankBehind = true,
                       .endsWithNewPage = false}};
@@ -158,6 +201,12 @@ private:
         return Y(control.y(), m_rules.text) + TextDrop + (isUser ? m_rules.userIdDrop : 0);
     }
 
+    /// The pixels that a control's text has: a heading is as wide as its text, and may leave the sheet.
+    static int RoomFor(const QWidget& control)
+    {
+        return std::min(control.width(), control.parentWidget()->width() - control.x());
+    }
+
     void DrawText(const QWidget& control, const QString& text, double y)
     {
         control.ensurePolished(); // the font that the style sheet gives it, also on a form never shown
@@ -167,7 +216,7 @@ private:
         m_page.SetFontBold(font.bold());
         m_page.SetCurrentX(static_cast<float>(X(control.x())));
         m_page.SetCurrentY(static_cast<float>(y));
-        m_page.PrintPrint(text);
+        m_page.PrintFitted(text, RoomFor(control) * TwipsPerPixel);
     }
 
     void DrawLine(const QFrame& line)
@@ -186,70 +235,17 @@ private:
 
 } // namespace
 
-DocumentRules LotSlipRules()
+const DocumentRules& RulesOf(Document document)
 {
-    return SlipRules(u"P01"_s, u"frmTemp"_s, u"商品登记单"_s);
-}
-
-DocumentRules StockChangeRules()
-{
-    return SlipRules(u"P02"_s, u"frmPrintEStore"_s, u"库存变更单"_s);
-}
-
-DocumentRules TicketRules()
-{
-    const auto texts = AllBut({u"txtRPrice"_s});
-    return {.paperId = u"P03"_s,
-            .form = u"frmSale"_s,
-            .title = u"收款清单"_s,
-            .errorLabel = u"打印收银清单"_s,
-            .stationery = {.printsLabel =
-                               Only({u"lblCustName"_s, u"lblReportName"_s, u"lblPArea"_s, u"lblTotal"_s}),
-                           .label = {.factor = TicketStretch, .takesTopArea = true},
-                           .printsText = texts,
-                           .text = {.factor = TicketStretch, .takesTopArea = true},
-                           .comboName = u"cmbSaleType"_s},
-            .sheet = {.printsLabel = AllBeginningOtherThan({u"cmd"_s, u"Flbl"_s}),
-                      .label = {.factor = TicketStretch},
-                      .printsText = texts,
-                      .text = {.factor = TicketStretch},
-                      .ruling = Ruling::Named,
-                      .lineName = u"Tline"_s,
-                      .line = {.factor = TicketStretch},
-                      .hasBlankBehind = true,
-                      .endsWithNewPage = false}};
-}
-
-DocumentRules AdvanceRules()
-{
-    return {.paperId = u"P04"_s,
-            .form = u"frmDebit"_s,
-            .title = u"预支款登记单"_s,
-            .errorLabel = u"打印预支款清单"_s,
-            .stationery = {.printsLabel = Only({u"lblReportName"_s}),
-                           .label = {.factor = TicketStretch, .takesTopArea = true},
-                           .printsText = All,
-                           .text = {.takesTopArea = true},
-                           .hasBlankBehind = true},
-            .sheet = {.printsLabel = AllBeginningOtherThan({u"cmd"_s}),
-                      .label = {.takesTopArea = true},
-                      .printsText = All,
-                      .text = {.takesTopArea = true},
-                      .ruling = Ruling::Named,
-                      .lineName = u"Tline"_s,
-                      .line = {.takesTopArea = true},
-                      .hasBlankBehind = true,
-                      .endsWithNewPage = false}};
-}
-
-DocumentRules SettlementRules()
-{
-    return SettlementRulesOf(u"frmCheckOut"_s, u"TLine"_s);
-}
-
-DocumentRules SettlementARules()
-{
-    return SettlementRulesOf(u"frmCheckOutA"_s, u"Tline"_s);
+    static const std::map<Document, DocumentRules> rules{
+        {Document::PRDList, SlipRules(u"P01"_s, u"商品登记单"_s)},
+        {Document::EStore, SlipRules(u"P02"_s, u"库存变更单"_s)},
+        {Document::SaleList, TicketRules()},
+        {Document::Debit, AdvanceRules()},
+        {Document::CheckOut, SettlementRules(u"TLine"_s)},
+        {Document::CheckOutA, SettlementRules(u"Tline"_s)},
+    };
+    return rules.at(document);
 }
 
 void DrawForm(clsPrint& page, const QWidget& form, const PageRules& rules, double left, double top)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "printing/Documents.h"
+
 #include <QString>
 
 #include <functional>
@@ -40,22 +42,16 @@ struct PageRules {
     bool endsWithNewPage = true;
 };
 
-/// One of the six documents.
+/// How one of the documents prints.
 struct DocumentRules {
     QString paperId;    ///< DFN_Paper.PaperID
-    QString form;       ///< the window that is printed
     QString title;      ///< its name in the queue
     QString errorLabel; ///< ErrInfo.ErrSource of a failure
     PageRules stationery;
     PageRules sheet;
 };
 
-DocumentRules LotSlipRules();
-DocumentRules StockChangeRules();
-DocumentRules TicketRules();
-DocumentRules AdvanceRules();
-DocumentRules SettlementRules();  ///< frmCheckOut
-DocumentRules SettlementARules(); ///< frmCheckOutA
+const DocumentRules& RulesOf(Document document);
 
 /// Draws the controls of a form in their order, each where it stands, moved by the offsets (twips).
 /// A text box prints 120 twips lower than its top, where the labels beside it have their text.

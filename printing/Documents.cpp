@@ -6,12 +6,19 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
 DocumentPrinter* replacement = nullptr;
-}
+
+class NoPaper : public DocumentPrinter {
+public:
+    void Print(Document /*document*/, PrintMode /*mode*/, const QWidget& /*form*/) override {}
+};
+
+} // namespace
 
 DocumentPrinter& Documents()
 {
-    static DocumentPrinter noPaper;
+    static NoPaper noPaper;
     if (replacement)
         return *replacement;
     auto* window = dynamic_cast<DocumentPrinter*>(Windows().Load(u"frmPrint"_s, MainFrame()));
@@ -21,4 +28,12 @@ DocumentPrinter& Documents()
 void SetDocumentPrinter(DocumentPrinter* printer)
 {
     replacement = printer;
+}
+
+void PrintDocument(Document document, const QString& printStyle, const QWidget& form)
+{
+    if (printStyle == u"1")
+        Documents().Print(document, PrintMode::Stationery, form);
+    else if (printStyle == u"2")
+        Documents().Print(document, PrintMode::Sheet, form);
 }

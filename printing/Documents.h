@@ -2,12 +2,31 @@
 
 #include <QString>
 
-/// The documents that leave the system on paper, one call each. The caller has filled the form that is
-/// printed. Nothing is shown and nothing is thrown when printing fails: the failure is a row of ErrInfo,
-/// and the save that printed goes on.
-///
-/// `prePrinted`: only the data, on stationery. `framed`: labels, data and lines, on a blank sheet.
-/// Neither: as framed, on the preview.
+class QWidget;
+
+/// The documents that leave the system on paper. Each is a form, printed as it stands.
+enum class Document {
+    PRDList,   ///< the lot slip, frmTemp
+    EStore,    ///< the stock change slip, frmPrintEStore
+    SaleList,  ///< the till ticket, frmSale
+    Debit,     ///< the advance slip, frmDebit
+    CheckOut,  ///< the settlement, frmCheckOut
+    CheckOutA, ///< the settlement, frmCheckOutA
+};
+
+enum class PrintMode {
+    Stationery, ///< only the data, on paper that carries the rest
+    Sheet,      ///< labels, data and lines, on a blank sheet
+    Preview,    ///< as the sheet, on the screen
+};
+
+/// Prints `form` as `document`, in the style that DFN_Paper.PrintStyle tells: "1" on stationery, "2" on a
+/// blank sheet; with any other style nothing prints. The caller has filled the form. Nothing is thrown when
+/// printing fails, and the save that printed goes on: the failure is a row of ErrInfo. A document that
+/// could not be kept as a file either is told in a box when the present handler has ended.
+void PrintDocument(Document document, const QString& printStyle, const QWidget& form);
+
+/// What turns forms into paper.
 class DocumentPrinter {
 public:
     DocumentPrinter() = default;
@@ -15,36 +34,12 @@ public:
     DocumentPrinter(const DocumentPrinter&) = delete;
     DocumentPrinter& operator=(const DocumentPrinter&) = delete;
 
-    /// Which document the print window is about: "PRDList" or "EStore".
-    virtual void PrintRpt(const QString& /*documentKey*/) {}
-    /// The lot slip, from frmTemp, which is unloaded.
-    virtual void PrintPRDList(bool /*prePrinted*/, bool /*framed*/) {}
-    /// The stock change slip, from frmPrintEStore, which is unloaded.
-    virtual void PrintEStore(bool /*prePrinted*/, bool /*framed*/) {}
-    /// The till ticket, from frmSale as it stands.
-    virtual void PrintSaleList(bool /*prePrinted*/, bool /*framed*/) {}
-    /// The advance slip, from frmDebit as it stands.
-    virtual void PrintDebit(bool /*prePrinted*/, bool /*framed*/) {}
-    /// The settlement, from frmCheckOut as it stands.
-    virtual void PrintCheckOut(bool /*prePrinted*/, bool /*framed*/) {}
-    /// The settlement, from frmCheckOutA as it stands.
-    virtual void PrintCheckOutA(bool /*prePrinted*/, bool /*framed*/) {}
+    /// As PrintDocument, in a mode. The form is as it was afterwards.
+    virtual void Print(Document document, PrintMode mode, const QWidget& form) = 0;
 };
 
-/// What prints the documents: the print window, loaded with the first of them. A program without that
-/// window has no paper, and every call does nothing.
+/// The print window, loaded with the first document. In a program without that window nothing prints.
 DocumentPrinter& Documents();
 
 /// Puts another in its place; nullptr brings the print window back. The caller keeps ownership.
 void SetDocumentPrinter(DocumentPrinter* printer);
-
-/// How a document is printed, by DFN_Paper.PrintStyle: "1" and "2" print, anything else does not.
-/// Calls `print` with (prePrinted, framed).
-template <typename Print>
-void PrintByStyle(const QString& printStyle, Print print)
-{
-    if (printStyle == u"1")
-        print(true, false);
-    else if (printStyle == u"2")
-        print(false, true);
-}

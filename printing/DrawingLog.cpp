@@ -40,5 +40,7 @@ void DrawingLog::NoteText(const QString& text, double x, double y, const QFont& 
         line += u" bold"_s;
     if (font.italic())
         line += u" italic"_s;
+    if (font.stretch() != QFont::AnyStretch && font.stretch() != QFont::Unstretched)
+        line += u" stretch "_s + QString::number(font.stretch());
     m_lines << line + u' ' + InQuotes(text);
 }

@@ -12,7 +12,8 @@ class DrawingLog {
 public:
     /// A call with its numbers: "line 600 1200 11310 1200".
     void Note(const QString& call, std::initializer_list<double> numbers = {});
-    /// A text at the pen: `text 600 930 "Noto Serif CJK SC" 18 bold "结算清单"`.
+    /// A text at the pen: `text 600 930 "Noto Serif CJK SC" 18 bold "结算清单"`, and `stretch 75` before the
+    /// text where its letters are narrowed to so many percent.
     void NoteText(const QString& text, double x, double y, const QFont& font);
 
     /// The lines since the last call.

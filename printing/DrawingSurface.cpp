@@ -106,6 +106,11 @@ void DrawingSurface::SetFontStrikethru(bool on)
     m_font.setStrikeOut(on);
 }
 
+void DrawingSurface::SetFontStretch(int percent)
+{
+    m_font.setStretch(percent);
+}
+
 QFont DrawingSurface::PageFont() const
 {
     QFont font = m_font;

@@ -49,6 +49,8 @@ public:
     void SetFontItalic(bool on);
     void SetFontUnderline(bool on);
     void SetFontStrikethru(bool on);
+    /// Width of the letters in percent of what the font has; 100 is as it stands.
+    void SetFontStretch(int percent);
 
     /// Line width; 1 is a half point, the thinnest rule that every printer draws alike.
     int DrawWidth() const { return m_drawWidth; }

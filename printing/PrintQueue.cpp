@@ -2,7 +2,6 @@
 
 #include "core/base/Clock.h"
 #include "core/base/ProgramFiles.h"
-#include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
 #include "printing/CupsQueue.h"
@@ -23,18 +22,6 @@ QPageSize PaperOf(int paperSizeCode, CupsQueue& queue)
         return QPageSize(known);
     const auto own = queue.Papers("media-default");
     return own.isEmpty() ? QPageSize(QPageSize::A4) : own.first();
-}
-
-/// The user is told when the folder is made: afterwards it is known.
-void MakePdfFolder()
-{
-    const QString folder = PdfFolder();
-    if (QDir(folder).exists())
-        return;
-    if (!QDir().mkpath(folder))
-        throw RunTimeError(u"单据没有打印，也无法建立文件夹："_s + folder);
-    AfterHandler(
-        [folder] { ShowInfo(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + folder); });
 }
 
 } // namespace
@@ -93,13 +80,40 @@ void PrintJob::HandOver()
     }
     const QString refusal =
         m_queue->Refusal(m_title, m_paper.pageLayout().pageSize(), m_isLandscape, m_document.data());
-    if (!refusal.isEmpty())
-        throw RunTimeError(u"%1，单据存为文件：%2"_s.arg(refusal, KeepAsFile()));
+    if (refusal.isEmpty())
+        return;
+    QString file;
+    try {
+        file = KeepAsFile();
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(refusal + u'，' + error.Description());
+    }
+    throw KeptAsFileError(u"%1，单据存为文件：%2"_s.arg(refusal, file));
 }
 
+/// The user is told of the folder with the first file of a folder that was made for it.
 QString PrintJob::KeepAsFile() const
 {
-    MakePdfFolder();
+    const QString folder = PdfFolder();
+    const bool isNew = !QDir(folder).exists();
+    if (isNew && !QDir().mkpath(folder))
+        throw RunTimeError(u"无法建立文件夹："_s + folder);
+    try {
+        const QString file = WriteFile();
+        if (isNew)
+            AfterHandler([folder] {
+                ShowInfo(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + folder);
+            });
+        return file;
+    } catch (const RunTimeError&) {
+        if (isNew)
+            QDir().rmdir(folder); // made anew, and told of, with the first file that it can take
+        throw;
+    }
+}
+
+QString PrintJob::WriteFile() const
+{
     const QDir folder(PdfFolder());
     const QString stem = Clock::Now().toString(u"yyyyMMdd-HHmmss-"_s) + m_title;
     QFile file(folder.filePath(stem + u".pdf"_s));
@@ -110,7 +124,7 @@ QString PrintJob::KeepAsFile() const
     if (!isOpen || file.write(m_document.data()) != m_document.size() || !file.flush()) {
         if (isOpen)
             QFile::remove(file.fileName()); // the file's own remove() would first write what is left
-        throw RunTimeError(u"单据没有打印，也无法写入文件："_s + file.fileName());
+        throw RunTimeError(u"无法写入文件："_s + file.fileName());
     }
     return file.fileName();
 }

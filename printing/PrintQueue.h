@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/base/RunTimeError.h"
+
 #include <QBuffer>
 #include <QList>
 #include <QPdfWriter>
@@ -34,6 +36,12 @@ QSizeF UprightSheet(int paperSizeCode);
 /// program.
 QString PdfFolder();
 
+/// A document that was not printed and stands as a file instead; the description tells both.
+class KeptAsFileError : public RunTimeError {
+public:
+    using RunTimeError::RunTimeError;
+};
+
 /// One document on its way to the default print queue, or, where there was none when the job was opened,
 /// into a PDF file of PdfFolder(). The user is told of the folder once, when it is made; never in the
 /// middle of a save. A document is one sheet of what the queue receives and is never lost without a word.
@@ -50,13 +58,14 @@ public:
     /// What to paint on.
     QPdfWriter& Paper() { return m_paper; }
 
-    /// Called once the painter has ended. @throws RunTimeError when the queue did not take the document,
-    /// which then stands in PdfFolder() under the name that the error tells; when it could not be written
-    /// there; and when nothing was painted
+    /// Called once the painter has ended. @throws KeptAsFileError when the queue did not take the document,
+    /// which then stands in PdfFolder() under the name that the error tells. @throws RunTimeError when the
+    /// document is lost: it could not be written there either, or nothing was painted
     void HandOver();
 
 private:
     QString KeepAsFile() const;
+    QString WriteFile() const;
 
     QString m_title;
     bool m_isLandscape;

@@ -33,7 +33,8 @@ public:
     /// blank one. The pen goes to its corner.
     void NewPage();
     /// Closes the job and hands it over. Nothing without an open one.
-    /// @throws RunTimeError when the queue did not take it
+    /// @throws KeptAsFileError when the queue did not take it and it became a file; RunTimeError when it
+    /// is lost
     void EndDoc();
     /// Drops an open job: nothing of it reaches the queue.
     void KillDoc();

@@ -15,6 +15,7 @@ const QString CellProbe = u"XX的"_s; // both scripts, so that a cell is high en
 
 constexpr double PreviewLineGap = 10;
 constexpr double PreviewMargin = 50;
+constexpr int NarrowestStretch = 50; // percent; narrower than half, nobody reads it
 
 /// Twips, upright.
 struct PageSize {
@@ -52,7 +53,6 @@ void clsPrint::NewLineBG(double extra)
 void clsPrint::CenterPrn(double width)
 {
     LeftMargin = width <= 0 ? PreviewMargin : std::max(0.0, (Target().ScaleWidth() - width) / 2);
-    RightMargin = LeftMargin;
     SetCurrentX(static_cast<float>(LeftMargin));
     SetCurrentY(static_cast<float>(TopMargin));
 }
@@ -73,7 +73,6 @@ void clsPrint::SelectTarget(ctlPreview& preview)
     IsPrinter = false;
     CenterPrn(preview.ScaleWidth());
     TopMargin = PreviewMargin;
-    BottomMargin = PreviewMargin;
     CopyPrinterMetrics(preview);
 }
 
@@ -91,9 +90,7 @@ void clsPrint::PrintStartDoc(SystemPrinter& target, double scale)
     IsPrinter = true;
     LineGap = 0; // none of what an earlier preview left
     TopMargin = 0;
-    BottomMargin = 0;
     LeftMargin = 0;
-    RightMargin = 0;
     if (m_log)
         m_log->Note(u"start printer"_s, {scale});
     target.KillDoc();        // what an earlier document left open when it failed
@@ -141,6 +138,19 @@ void clsPrint::PrintPrint(const QString& text)
         m_printer.Print(text);
     else
         m_preview->PrintA(text);
+}
+
+void clsPrint::PrintFitted(const QString& text, double width)
+{
+    QString ink = text;
+    while (ink.endsWith(u' '))
+        ink.chop(1);
+    const double natural = TextWidth(ink);
+    const double room = std::max(0.0, width);
+    if (natural > room)
+        Target().SetFontStretch(std::max(NarrowestStretch, static_cast<int>(100 * room / natural)));
+    PrintPrint(text);
+    Target().SetFontStretch(QFont::Unstretched);
 }
 
 void clsPrint::PrintLine(float x1, float y1, float x2, float y2)

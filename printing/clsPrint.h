@@ -40,6 +40,9 @@ public:
     float TextHeight(const QString& text) const;
     /// A text at the pen. Where the pen is afterwards is the target's affair.
     void PrintPrint(const QString& text);
+    /// The same, the letters narrowed as far as `text` is wider than `width` twips, to half of their width
+    /// at most: a text is never cut, and one that is wider still runs over. Blanks at its end may run over.
+    void PrintFitted(const QString& text, double width);
     void PrintLine(float x1, float y1, float x2, float y2);
     void PrintBox(float x1, float y1, float x2, float y2);
     void PrintFilledBox(float x1, float y1, float x2, float y2, ColorValue color);
@@ -48,7 +51,7 @@ public:
     void NewPage();
     void PrintPicture(const QImage& picture, float x, float y, float width, float height);
     /// Closes the printer's job; nothing on the preview.
-    /// @throws RunTimeError when the queue did not take it
+    /// @throws KeptAsFileError, RunTimeError as SystemPrinter::EndDoc
     void EndDoc();
 
     float CurrentX() const;
@@ -111,8 +114,6 @@ private:
     double PageWidth = 0;
     double PageHeight = 0;
     double TopMargin = 0;
-    double BottomMargin = 0; ///< read by nothing
     double LeftMargin = 0;
-    double RightMargin = 0; ///< read by nothing
-    double LineGap = 0;     ///< 10 on the preview, 0 on paper
+    double LineGap = 0; ///< 10 on the preview, 0 on paper
 };

@@ -1,6 +1,6 @@
 #include "printing/ctlPreview.h"
 
-#include "core/forms/HoverBox.h"
+#include "core/base/Twips.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>
@@ -95,7 +95,7 @@ ctlPreview::ctlPreview(QWidget* parent)
     SetBackColor(ToColorValue(palette().color(QPalette::Button)));
     SetForeColor(ToColorValue(palette().color(QPalette::ButtonText)));
     SetFont(font());
-    SetBackStyle(1);
+    setAutoFillBackground(true);
     for (QScrollBar* bar : {VSPageDoc, HSPageDoc}) {
         bar->setSingleStep(LineStep);
         connect(bar, &QScrollBar::valueChanged, this, &ctlPreview::Refresh);
@@ -165,18 +165,6 @@ void ctlPreview::SetPaperHeight(float twips)
     picPageDoc->SetOuterSize(picPageDoc->OuterWidth(), twips);
 }
 
-void ctlPreview::SetBackStyle(int style)
-{
-    m_backStyle = style;
-    setAutoFillBackground(style != 0);
-}
-
-void ctlPreview::SetBorderStyle(int style)
-{
-    m_borderStyle = style;
-    update();
-}
-
 void ctlPreview::LayOut()
 {
     const int coverWidth = width() - VSPageDoc->sizeHint().width();
@@ -233,8 +221,6 @@ void ctlPreview::resizeEvent(QResizeEvent* event)
 void ctlPreview::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
-    if (m_borderStyle == 0)
-        return;
     QPainter painter(this);
     painter.setPen(hasFocus() ? QColor(0xe0, 0x7b, 0x00) : QColor(0x98, 0xa2, 0xad));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));

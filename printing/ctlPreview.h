@@ -117,12 +117,10 @@ public:
     void SetScaleWidth(float twips) { picPageDoc->SetScaleWidth(twips); }
     void SetScaleHeight(float twips) { picPageDoc->SetScaleHeight(twips); }
 
-    /// 1: the control has a ground of its own, 0: what is behind it shows.
-    int BackStyle() const { return m_backStyle; }
-    void SetBackStyle(int style);
-    /// 1: a line around the control, 0: none.
-    int BorderStyle() const { return m_borderStyle; }
-    void SetBorderStyle(int style);
+    /// 1: the control has a ground of its own.
+    static int BackStyle() { return 1; }
+    /// 1: there is a line around the control.
+    static int BorderStyle() { return 1; }
 
     /// What is drawn on.
     DrawingSurface& Canvas() { return *picPageDoc; }
@@ -154,8 +152,6 @@ private:
     QScrollBar* HSPageDoc;
     QWidget* picPageCover;
     PageCanvas* picPageDoc;
-    int m_backStyle = 1;
-    int m_borderStyle = 1;
     Axis m_across; ///< ScrollRatioX
     Axis m_down;   ///< ScrollRatioY
 };

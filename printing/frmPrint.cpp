@@ -1,18 +1,16 @@
 #include "printing/frmPrint.h"
 
-#include "core/base/RunTimeError.h"
+#include "core/base/Twips.h"
 #include "core/common/ErrorLog.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
-#include "core/forms/HoverBox.h"
+#include "core/common/Messages.h"
 #include "core/forms/RecordForms.h"
-#include "core/forms/WindowRegistry.h"
 #include "core/session/Session.h"
 #include "printing/DocumentRules.h"
+#include "printing/PrintQueue.h"
 #include "printing/clsPrint.h"
 #include "printing/ctlPreview.h"
-#include "printing/frmPrintEStore.h"
-#include "printing/frmTemp.h"
 #include "ui_frmPrint.h"
 
 #include <QAction>
@@ -31,7 +29,8 @@ struct ToolbarKey {
     bool isOffered;
 };
 
-/// Printing is asked for from the main window; the preview's own buttons for it have no action.
+/// Printing is asked for from the main window, and the preview shows a page at its size: of the strip's
+/// entries and boxes only those that do something are seen.
 const QList<ToolbarKey>& ToolbarKeys()
 {
     static const QList<ToolbarKey> keys{
@@ -40,14 +39,6 @@ const QList<ToolbarKey>& ToolbarKeys()
         {u"mnuExit"_s, u"退出"_s, true},
     };
     return keys;
-}
-
-const QWidget& OpenForm(const QString& name)
-{
-    Form* form = Windows().Find(name);
-    if (!form)
-        throw RunTimeError(u"要打印的窗口没有打开："_s + name);
-    return *form->Widget();
 }
 
 } // namespace
@@ -64,7 +55,7 @@ frmPrint::frmPrint(QWidget* owner)
     for (const ToolbarKey& key : ToolbarKeys()) {
         QAction* action = ui->menuBar->addAction(key.caption);
         action->setObjectName(key.key);
-        action->setEnabled(key.isOffered);
+        action->setVisible(key.isOffered);
         connect(action, &QAction::triggered, this,
                 [this, name = key.key] { RunHandler([this, &name] { PressToolbar(name); }); });
     }
@@ -103,66 +94,40 @@ clsPrint& frmPrint::Page()
     return *m_page;
 }
 
-void frmPrint::PrintPRDList(bool prePrinted, bool framed)
+void frmPrint::Print(Document document, PrintMode mode, const QWidget& form)
 {
-    PrintDocument(LotSlipRules(), prePrinted, framed);
-    frmTemp::Unload();
-}
-
-void frmPrint::PrintEStore(bool prePrinted, bool framed)
-{
-    PrintDocument(StockChangeRules(), prePrinted, framed);
-    frmPrintEStore::Unload();
-}
-
-void frmPrint::PrintSaleList(bool prePrinted, bool framed)
-{
-    PrintDocument(TicketRules(), prePrinted, framed);
-}
-
-void frmPrint::PrintDebit(bool prePrinted, bool framed)
-{
-    PrintDocument(AdvanceRules(), prePrinted, framed);
-}
-
-void frmPrint::PrintCheckOut(bool prePrinted, bool framed)
-{
-    PrintDocument(SettlementRules(), prePrinted, framed);
-}
-
-void frmPrint::PrintCheckOutA(bool prePrinted, bool framed)
-{
-    PrintDocument(SettlementARules(), prePrinted, framed);
-}
-
-void frmPrint::PrintDocument(const DocumentRules& rules, bool prePrinted, bool framed)
-{
+    const DocumentRules& rules = RulesOf(document);
     try {
-        const QWidget& form = rules.form == u"frmTemp"          ? frmTemp::Load()
-                              : rules.form == u"frmPrintEStore" ? frmPrintEStore::Load()
-                                                                : OpenForm(rules.form);
-        PrintForm(rules, form, prePrinted, framed);
+        PrintForm(rules, mode, form);
+    } catch (const KeptAsFileError& error) {
+        LogError(Session::CurrentUserName, error.Description(), rules.errorLabel);
     } catch (const std::exception& error) {
-        // The save behind the document stands and goes on; the row is all that tells of the failure.
-        LogError(Session::CurrentUserName, QString::fromUtf8(error.what()), rules.errorLabel);
+        const QString reason = QString::fromUtf8(error.what());
+        LogError(Session::CurrentUserName, reason, rules.errorLabel);
+        // Somebody waits for this paper, and nobody at a till reads the row.
+        if (mode != PrintMode::Preview)
+            AfterHandler([title = rules.title, reason] {
+                ShowInfo(u"%1没有打印，也没有存成文件！\n%2"_s.arg(title, reason));
+            });
     }
 }
 
-void frmPrint::PrintForm(const DocumentRules& rules, const QWidget& form, bool prePrinted, bool framed)
+void frmPrint::PrintForm(const DocumentRules& rules, PrintMode mode, const QWidget& form)
 {
     const double left = GetPaperLeft(rules.paperId) * TwipsPerCentimetre;
     const double top = GetPaperTop(rules.paperId) * TwipsPerCentimetre;
     clsPrint& page = Page();
     m_printer.SetTitle(rules.title);
     ChoosePaper(form);
-    if (prePrinted || framed)
-        page.PrintStartDoc(m_printer, 1);
-    else
+    if (mode == PrintMode::Preview)
         page.PrintStartDoc(PagePreview(), 1);
+    else
+        page.PrintStartDoc(m_printer, 1);
 
-    DrawForm(page, form, prePrinted ? rules.stationery : rules.sheet, left, top);
+    const PageRules& pageRules = mode == PrintMode::Stationery ? rules.stationery : rules.sheet;
+    DrawForm(page, form, pageRules, left, top);
 
-    if (prePrinted ? rules.stationery.endsWithNewPage : framed && rules.sheet.endsWithNewPage)
+    if (mode != PrintMode::Preview && pageRules.endsWithNewPage)
         page.NewPage();
     page.EndDoc();
 }

@@ -24,13 +24,7 @@ public:
     explicit frmPrint(QWidget* owner = nullptr);
     ~frmPrint() override;
 
-    void PrintRpt(const QString& documentKey) override { m_documentKey = documentKey; }
-    void PrintPRDList(bool prePrinted, bool framed) override;
-    void PrintEStore(bool prePrinted, bool framed) override;
-    void PrintSaleList(bool prePrinted, bool framed) override;
-    void PrintDebit(bool prePrinted, bool framed) override;
-    void PrintCheckOut(bool prePrinted, bool framed) override;
-    void PrintCheckOutA(bool prePrinted, bool framed) override;
+    void Print(Document document, PrintMode mode, const QWidget& form) override;
 
     /// Tells the drawing calls of the documents to `log`, beside drawing them; nullptr ends that.
     void Record(DrawingLog* log);
@@ -39,8 +33,7 @@ public:
     ctlPreview& PagePreview();
 
 private:
-    void PrintDocument(const DocumentRules& rules, bool prePrinted, bool framed);
-    void PrintForm(const DocumentRules& rules, const QWidget& form, bool prePrinted, bool framed);
+    void PrintForm(const DocumentRules& rules, PrintMode mode, const QWidget& form);
     void ChoosePaper(const QWidget& form);
     clsPrint& Page();
     void PressToolbar(const QString& key);
@@ -49,5 +42,4 @@ private:
     SystemPrinter m_printer;
     std::unique_ptr<clsPrint> m_page;
     DrawingLog* m_log = nullptr;
-    QString m_documentKey;
 };

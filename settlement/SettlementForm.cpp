@@ -6,9 +6,9 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
-#include "core/forms/RecordForms.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -31,11 +31,14 @@ constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
 constexpr int PersonWidth = 60;
 
+/// PRD_List.Num among the lot's columns, asked for where the stock line needs it.
+constexpr int DeliveredColumn = 6;
+
 /// A fee as calculated, then as it is shown: each writing runs the field's Change handler.
 void WriteFee(QLineEdit* fee, double amount)
 {
     WriteText(fee, NumberText(amount));
-    WriteText(fee, FormatAmount(TextToDouble(fee->text()), u"1"_s));
+    FormatTextBox(fee, u"1"_s);
 }
 
 } // namespace
@@ -156,10 +159,6 @@ void SettlementForm::RenameFee(int index)
 {
     static const QString window = u"frmSetFeeLabel"_s;
     Session::FeeLabelKey = u'L' + QString::number(index);
-    if (!Windows().Knows(window)) {
-        ShowFunctionWindow(window);
-        return;
-    }
     if (Form* form = Windows().Load(window, this))
         form->TakeName(m_controls.lblFee[static_cast<std::size_t>(index)]->text());
     Windows().ShowModal(window, this);
@@ -169,14 +168,24 @@ void SettlementForm::LoadLotForSettlement()
 {
     if (!m_bolNewStatus)
         return;
+    try {
+        LookUpLot(m_controls.txtPRDNo->text().trimmed());
+    } catch (...) {
+        ForgetLot();
+        throw;
+    }
+}
+
+void SettlementForm::LookUpLot(const QString& number)
+{
     const SettlementControls& c = m_controls;
-    const QString number = c.txtPRDNo->text().trimmed();
     if (number.isEmpty()) {
         Chain().ReturnTo(c.txtPRDNo);
         return;
     }
     const RecordSet lot = Gateway().SelectRows(
-        u"PRD_List"_s, u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + ExtraLotColumns(),
+        u"PRD_List"_s,
+        u"ID,CustName,Store,PRDName,MPercent,PRDNo"_s + (HasStockLine() ? u",Num"_s : QString()),
         u"(PRDNo='"_s + number + u"' Or PRDNo_S='"_s + number + u"') And bolCheckOut='0'"_s);
     if (lot.Eof()) {
         ShowInfo(u"该编号不存在或已结算，请重新输入！"_s);
@@ -205,7 +214,23 @@ void SettlementForm::LoadLotForSettlement()
     WriteText(c.txtLExpendPrice, NumberText(SumField(u"CustDebit"_s, u"DebitAmount"_s, ofLot)));
     // An advance equal to the last lot's changes no text, and the net must still be this lot's.
     RecalculateSettlement();
-    ShowStock(lot, pieces);
+    if (HasStockLine()) {
+        LotStock stock = ReadStockChanges(m_lotId, NullToZero(lot.Fields(DeliveredColumn).Value));
+        stock.sold = pieces;
+        ShowStock(stock);
+    }
+}
+
+void SettlementForm::ForgetLot()
+{
+    m_lotId.clear();
+    TakeStore(QString());
+    // What a lot brings to the sheet stands in the locked boxes, the net among them.
+    for (QLineEdit* box : TextBoxes()) {
+        if (box->isReadOnly() && box != m_controls.txtCheckDate && box != m_controls.txtCheckNo)
+            WriteText(box, QString());
+    }
+    m_controls.lblPriceUCase->clear();
 }
 
 void SettlementForm::RecalculateSettlement()
@@ -216,11 +241,11 @@ void SettlementForm::RecalculateSettlement()
                            [](const QLineEdit* box) { return TextToDouble(box->text()); });
     const double total = TotalOfDeductions(lines);
     c.txtLTotalPrice->setText(FormatMoney(total));
+    // Until the new net stands there is none: the rounding switch may not be readable.
+    c.txtGTotalPrice->clear();
     double net = NetToOwner(TextToDouble(c.txtAmount->text()), total);
-    if (net <= 0) {
-        c.txtGTotalPrice->clear();
+    if (net <= 0)
         return;
-    }
     if (IsRoundOn(u"C02"_s))
         net = RoundHalfUp(net);
     c.txtGTotalPrice->setText(FormatMoney(net));

@@ -1,9 +1,10 @@
 #pragma once
 
 #include "core/forms/FormWindow.h"
+#include "printing/Documents.h"
 #include "settlement/SettlementControls.h"
 
-class RecordSet;
+struct LotStock;
 
 /// The settlement of a lot with its owner: sales less fees and advances. Every figure lives as the text
 /// of its field and is read back from there, so what is saved is what is shown. The two layouts are
@@ -33,18 +34,16 @@ protected:
     virtual void KeepPrintStyle() {}
     /// After each change of txtPRDNo.
     virtual void LotNumberChanged() {}
-    /// Columns asked for beside those every layout shows, ",Num" for instance; they count from
-    /// FirstExtraColumn.
-    virtual QString ExtraLotColumns() const { return QString(); }
-    static constexpr int FirstExtraColumn = 6;
     /// Where the lot's store is held.
     virtual void TakeStore(const QString& store) = 0;
     virtual QString Store() const = 0;
-    /// After the figures of a lot that was found; `pieces` are sold.
-    virtual void ShowStock(const RecordSet& /*lot*/, double /*pieces*/) {}
+    /// True for the layout that shows how the lot's pieces came and went; only then are they read, behind
+    /// the lot's other figures.
+    virtual bool HasStockLine() const { return false; }
+    virtual void ShowStock(const LotStock& /*stock*/) {}
     /// DFN_Paper.PrintStyle of the settlement.
     virtual QString PrintStyle() const = 0;
-    virtual void Print(bool prePrinted, bool framed) = 0;
+    virtual Document PrintedAs() const = 0;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -55,6 +54,10 @@ private:
     void RenameFee(int index);
 
     void LoadLotForSettlement();
+    void LookUpLot(const QString& number);
+    /// A lookup that failed half way leaves no lot in hand and nothing of one on the sheet: the new
+    /// lot's key beside the last one's figures would be saved as it stands.
+    void ForgetLot();
     void RecalculateSettlement();
     void ChargeByPercent(const QLineEdit* rate, QLineEdit* fee);
     void ChargeByUnit(const QString& feeId, const QLineEdit* rate, QLineEdit* fee);

@@ -26,17 +26,3 @@ double FeeByWeight(double perTonne, double kilograms);
 
 /// A fee by count, yuan: `perPiece` yuan a piece.
 double FeeByCount(double perPiece, double pieces);
-
-/// How a lot's pieces came and went.
-struct StockSummary {
-    double delivered = 0; ///< 登记, booked at intake
-    double added = 0;     ///< 进货
-    double movedOut = 0;  ///< 转出
-    double lost = 0;      ///< 损耗
-    double sold = 0;      ///< 销售
-
-    /// 总到: booked and added.
-    double Arrived() const { return delivered + added; }
-    /// 结余: what should still stand in the store.
-    double Left() const { return Arrived() - movedOut - lost - sold; }
-};

@@ -41,7 +41,7 @@ void SettlementForm::SaveSettlement()
             return;
         }
         // The document is the window: it prints while the fields are filled.
-        PrintByStyle(PrintStyle(), [this](bool prePrinted, bool framed) { Print(prePrinted, framed); });
+        PrintDocument(PrintedAs(), PrintStyle(), *this);
         // Both look for the open lot of this number, so they come before it is closed.
         if (LotIsFixed(prdNo))
             CarryForwardLot(prdNo, now);

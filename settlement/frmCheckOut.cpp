@@ -2,10 +2,8 @@
 
 #include "core/base/Numbers.h"
 #include "core/common/Lookups.h"
-#include "core/gateway/RecordSet.h"
+#include "core/common/LotStock.h"
 #include "core/session/Session.h"
-#include "printing/Documents.h"
-#include "settlement/SettlementMath.h"
 #include "ui_frmCheckOut.h"
 
 using namespace Qt::StringLiterals;
@@ -28,23 +26,8 @@ void frmCheckOut::KeepPrintStyle()
     m_printStyle = GetPrintStyle(u"P05"_s);
 }
 
-QString frmCheckOut::ExtraLotColumns() const
+void frmCheckOut::ShowStock(const LotStock& stock)
 {
-    return u",Num"_s;
-}
-
-void frmCheckOut::ShowStock(const RecordSet& lot, double pieces)
-{
-    const auto changed = [this](const QString& type) {
-        return SumField(u"EStore_List"_s, u"Num"_s,
-                        u"ID='"_s + LotId() + u"' And EStoreType='"_s + type + u"'"_s);
-    };
-    StockSummary stock;
-    stock.delivered = NullToZero(lot.Fields(FirstExtraColumn).Value);
-    stock.added = changed(u"0"_s);
-    stock.movedOut = changed(u"1"_s);
-    stock.lost = changed(u"2"_s);
-    stock.sold = pieces;
     ui->txtSNum_0->setText(NumberText(stock.delivered));
     ui->txtSNum_1->setText(NumberText(stock.added));
     ui->txtSNum_2->setText(NumberText(stock.Arrived()));
@@ -52,9 +35,4 @@ void frmCheckOut::ShowStock(const RecordSet& lot, double pieces)
     ui->txtSNum_4->setText(NumberText(stock.lost));
     ui->txtSNum_5->setText(NumberText(stock.sold));
     ui->txtSNum_6->setText(NumberText(stock.Left()));
-}
-
-void frmCheckOut::Print(bool prePrinted, bool framed)
-{
-    Documents().PrintCheckOut(prePrinted, framed);
 }

@@ -22,12 +22,12 @@ public:
 
 protected:
     void KeepPrintStyle() override;
-    QString ExtraLotColumns() const override;
     void TakeStore(const QString& store) override { m_store = store; }
     QString Store() const override { return m_store; }
-    void ShowStock(const RecordSet& lot, double pieces) override;
+    bool HasStockLine() const override { return true; }
+    void ShowStock(const LotStock& stock) override;
     QString PrintStyle() const override { return m_printStyle; }
-    void Print(bool prePrinted, bool framed) override;
+    Document PrintedAs() const override { return Document::CheckOut; }
 
 private:
     std::unique_ptr<Ui::frmCheckOut> ui;

@@ -2,7 +2,6 @@
 
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
-#include "printing/Documents.h"
 #include "ui_frmCheckOutA.h"
 
 using namespace Qt::StringLiterals;
@@ -39,9 +38,4 @@ QString frmCheckOutA::Store() const
 QString frmCheckOutA::PrintStyle() const
 {
     return GetPrintStyle(u"P05"_s);
-}
-
-void frmCheckOutA::Print(bool prePrinted, bool framed)
-{
-    Documents().PrintCheckOutA(prePrinted, framed);
 }

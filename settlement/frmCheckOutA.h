@@ -22,7 +22,7 @@ protected:
     void TakeStore(const QString& store) override;
     QString Store() const override;
     QString PrintStyle() const override;
-    void Print(bool prePrinted, bool framed) override;
+    Document PrintedAs() const override { return Document::CheckOutA; }
 
 private:
     std::unique_ptr<Ui::frmCheckOutA> ui;

@@ -6,9 +6,9 @@
 #include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
+#include "core/forms/ProgressWindow.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
-#include "shell/frmScroll.h"
 
 #include "ui_frmDataClear.h"
 
@@ -81,7 +81,7 @@ void frmDataClear::Clear()
 
 void frmDataClear::ClearTicked()
 {
-    auto* progress = dynamic_cast<frmScroll*>(Windows().Show(u"frmScroll"_s, this));
+    auto* progress = dynamic_cast<ProgressWindow*>(Windows().Show(u"frmScroll"_s, this));
     if (!progress)
         throw RunTimeError(u"此功能在本版本中尚未提供。"_s);
     // Also when a statement is refused: its words must not stand behind the progress.

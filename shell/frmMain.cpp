@@ -11,7 +11,7 @@
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "core/session/SessionControl.h"
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 #include "shell/MenuTable.h"
 #include "shell/ToolbarIcons.h"
 #include "shell/WorkArea.h"

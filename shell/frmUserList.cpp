@@ -43,15 +43,16 @@ void frmUserList::SetKey(const QString& key)
 
 void frmUserList::LookUp()
 {
-    m_isFound = false; // also when the lookup fails: an update of a missing row would save nothing
+    // Also when the lookup fails: an update of a missing row would save nothing, and the password and the
+    // rights on the screen would go in under the new number.
+    m_isFound = false;
+    ClearUser();
     const RecordSet row =
         Gateway().SelectRows(u"User_List"_s, u"UserName,UserPWD,UserIP,bolIP,bolSearch,bolEdit"_s,
                              u"UserID='"_s + ui->txtUserID->text().trimmed() + u"'"_s);
     m_isFound = !row.Eof();
     if (m_isFound)
         ShowUser(row);
-    else
-        ClearUser();
 }
 
 void frmUserList::ShowUser(const RecordSet& row)

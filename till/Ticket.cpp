@@ -1,8 +1,7 @@
 #include "till/Ticket.h"
 
-#include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/gateway/DataGateway.h"
-#include "till/TicketTotals.h"
 
 using namespace Qt::StringLiterals;
 
@@ -20,15 +19,7 @@ bool LotIsOpen(const QString& lotId)
 
 double StockLimit(const QString& lotId)
 {
-    const QString lot = u"ID='"_s + lotId + u"'"_s;
-    const auto changed = [&lot](const QString& type) {
-        return SumField(u"EStore_List"_s, u"Num"_s, lot + u" And EStoreType='"_s + type + u"'"_s);
-    };
-    LotMovements movements;
-    movements.delivered = SumField(u"PRD_List"_s, u"Num"_s, lot);
-    movements.added = changed(u"0"_s);
-    movements.movedOut = changed(u"1"_s);
-    movements.lost = changed(u"2"_s);
-    movements.sold = SumField(u"Sal_List"_s, u"Num"_s, lot);
-    return StockLeft(movements);
+    LotStock stock = ReadStockChanges(lotId, SumDelivered(lotId));
+    stock.sold = SumSold(lotId);
+    return stock.Left();
 }

@@ -3,6 +3,7 @@
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Bills.h"
+#include "core/common/Credit.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
@@ -184,8 +185,7 @@ bool frmSale::BookTicket(const Ticket& ticket)
     CountIntoBatch();
     Gateway().UpdateRows(u"PRD_List"_s, u"Num_Sal=Num_Sal-"_s + SqlNumber(ticket.num),
                          u"ID="_s + Quoted(ticket.lotId));
-    PrintByStyle(m_printStyle,
-                 [](bool prePrinted, bool framed) { Documents().PrintSaleList(prePrinted, framed); });
+    PrintDocument(Document::SaleList, m_printStyle, *this);
     CountCratesOut(ticket);
     return true;
 }

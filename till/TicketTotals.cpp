@@ -19,11 +19,6 @@ TicketTotals ComputeTicketTotals(double num, double suttle, double upr, double p
     return totals;
 }
 
-double StockLeft(const LotMovements& lot)
-{
-    return Settled(lot.delivered + lot.added - lot.movedOut - lot.lost - lot.sold);
-}
-
 QString BusinessDate(const QDateTime& now, const QString& deadline)
 {
     const bool isPast = deadline != u"00:00:00" && FormatTime(now.time()) >= deadline;

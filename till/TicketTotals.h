@@ -16,18 +16,6 @@ struct TicketTotals {
 TicketTotals ComputeTicketTotals(double num, double suttle, double upr, double packAmount,
                                  double foregiftAmount, bool roundToYuan);
 
-/// The movements of one lot, in pieces.
-struct LotMovements {
-    double delivered = 0;
-    double added = 0;
-    double movedOut = 0;
-    double lost = 0;
-    double sold = 0;
-};
-
-/// How many pieces of a lot may still be sold; below zero when more went out than came in.
-double StockLeft(const LotMovements& lot);
-
 /// The market day a sale counts for, "yyyy-mm-dd": today, or tomorrow once the clock has reached the
 /// cut-off. The cut-off "hh:mm:ss" is compared as text, as it was typed; "00:00:00" means none.
 QString BusinessDate(const QDateTime& now, const QString& deadline);

@@ -30,8 +30,3 @@ void BumpBillCounter(const QString& uid, const QString& tid, const QString& curr
 
 /// A serial as three digits, "007"; "" from 1000 on, which lot keys never reach in an honest day.
 QString ThreeDigits(std::int16_t n);
-
-/// True when the buyer may buy for `newAmount` yuan more (less `oldAmount` of the ticket being adjusted):
-/// the buyer has no limit, or limit is not below what is owed after it. Otherwise false, with the credit
-/// left in Session::CreditLeft. @throws DatabaseError
-bool CheckCreditLimit(const QString& buyer, double newAmount, double oldAmount);

@@ -2,6 +2,7 @@
 
 #include "core/base/Numbers.h"
 #include "core/base/RunTimeError.h"
+#include "core/common/Handlers.h"
 
 #include <QLineEdit>
 
@@ -54,7 +55,7 @@ QString FormatAmount(double value, const QString& decimals)
 
 void FormatTextBox(QLineEdit* box, const QString& decimals)
 {
-    box->setText(FormatAmount(TextToDouble(box->text()), decimals));
+    WriteText(box, FormatAmount(TextToDouble(box->text()), decimals));
 }
 
 QString FormatMoney(double value)

@@ -10,7 +10,7 @@ class QLineEdit;
 QString FormatAmount(double value, const QString& decimals);
 
 /// Rewrites the box's text in the number format. An empty text counts as 0.
-/// @throws TypeMismatchError when the text or `decimals` is no number.
+/// @throws TypeMismatchError when the text or `decimals` is no number; what the box's Change handler throws
 void FormatTextBox(QLineEdit* box, const QString& decimals);
 
 /// Yuan as the screens show them: "¥1,234.5", "-¥12.5", "¥0.0".

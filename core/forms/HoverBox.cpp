@@ -1,5 +1,7 @@
 #include "core/forms/HoverBox.h"
 
+#include "core/base/Twips.h"
+
 #include <QFrame>
 
 using namespace Qt::StringLiterals;

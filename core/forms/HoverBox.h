@@ -5,9 +5,6 @@
 class QFrame;
 class QWidget;
 
-/// How many twips a screen pixel stands for, on every layout that is also paper.
-inline constexpr int TwipsPerPixel = 15;
-
 /// The four thin lines around a label button: top, bottom, left, right.
 using HoverLines = std::array<QFrame*, 4>;
 

@@ -343,7 +343,7 @@ void KeyChain::Left(FieldRule& rule)
         if (rule.m_zeroWhenLeftEmpty && box->text().isEmpty())
             WriteText(box, u"0"_s);
         if (rule.m_decimals && !box->text().trimmed().isEmpty())
-            WriteText(box, FormatAmount(TextToDouble(box->text()), QString::number(*rule.m_decimals)));
+            FormatTextBox(box, QString::number(*rule.m_decimals));
     }
     if (rule.m_onLeave)
         rule.m_onLeave();

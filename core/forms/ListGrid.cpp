@@ -1,24 +1,43 @@
 #include "core/forms/ListGrid.h"
 
-#include "core/base/Numbers.h"
-#include "core/forms/HoverBox.h"
-#include "core/gateway/DataGateway.h"
+#include "core/base/Twips.h"
+#include "core/common/ReportColumns.h"
+#include "core/forms/SheetModel.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QPainter>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
+#include <utility>
 
 namespace {
-constexpr double WidestColumn = 32767; // twips: more than the longest paper
-}
 
-ListGrid::ListGrid(QWidget* parent) : QTreeWidget(parent)
+constexpr int RowMargin = 2; // pixels above and below the text of a row
+
+/// Rows of one height, from the font alone: the style's own figure is another one before the window is
+/// first shown than after it.
+class RowDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return {QStyledItemDelegate::sizeHint(option, index).width(),
+                option.fontMetrics.height() + 2 * RowMargin};
+    }
+};
+
+} // namespace
+
+ListGrid::ListGrid(QWidget* parent) : QTreeView(parent), m_model(new SheetModel(this))
 {
+    setModel(m_model);
+    setItemDelegate(new RowDelegate(this));
     setRootIsDecorated(false);
-    setUniformRowHeights(true);
+    setItemsExpandable(false);
+    setUniformRowHeights(true); // else every row is measured
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
@@ -26,103 +45,140 @@ ListGrid::ListGrid(QWidget* parent) : QTreeWidget(parent)
     header()->setStretchLastSection(false);
     header()->setMinimumSectionSize(0);
     header()->setSectionsMovable(false);
-    setColumnCount(1);
-    setHeaderLabels({QString()});
-    setColumnHidden(0, true);
+    LayOutColumns();
     connect(header(), &QHeaderView::sectionResized, this, [this](int index, int /*before*/, int pixels) {
-        if (!m_isSettingColumns && index > 0 && static_cast<std::size_t>(index) < m_widths.size())
-            m_widths[static_cast<std::size_t>(index)] = pixels * TwipsPerPixel;
+        if (!m_isLayingOut)
+            m_model->SetWidth(index, pixels * TwipsPerPixel);
     });
-    connect(this, &QTreeWidget::itemDoubleClicked, this,
-            [this](QTreeWidgetItem* item) { emit RowChosen(indexOfTopLevelItem(item)); });
+    connect(this, &QTreeView::doubleClicked, this, [this](const QModelIndex& cell) {
+        if (cell.isValid()) // it is not, behind the last column
+            emit RowChosen(cell.row());
+    });
 }
 
-void ListGrid::SetColumns(const std::vector<Column>& columns)
+const Sheet& ListGrid::Content() const
 {
-    m_isSettingColumns = true;
-    clear();
-    QStringList headers{QString()};
-    m_widths.assign(1, 0);
-    m_alignments.assign(1, Qt::AlignLeft);
-    for (const Column& column : columns) {
-        headers << column.header;
-        m_widths.push_back(column.widthTwips);
-        m_alignments.push_back(column.alignment | Qt::AlignVCenter);
-    }
-    setColumnCount(static_cast<int>(headers.size()));
-    setHeaderLabels(headers);
+    return m_model->Content();
+}
+
+void ListGrid::Show(Sheet sheet)
+{
+    m_isLayingOut = true;
+    m_model->Show(std::move(sheet));
+    LayOutColumns();
+}
+
+void ListGrid::SetColumns(std::vector<SheetColumn> columns)
+{
+    m_isLayingOut = true;
+    m_model->SetColumns(std::move(columns));
+    LayOutColumns();
+}
+
+void ListGrid::LayOutColumns()
+{
+    m_isLayingOut = true;
     setColumnHidden(0, true);
-    for (int i = 1; i < columnCount(); ++i) {
-        const auto at = static_cast<std::size_t>(i);
-        header()->resizeSection(i, m_widths[at] / TwipsPerPixel);
-        headerItem()->setTextAlignment(i, m_alignments[at]);
-    }
-    m_isSettingColumns = false;
+    for (int i = 1; i < Content().ColumnCount(); ++i)
+        header()->resizeSection(i, Content().Column(i).widthTwips / TwipsPerPixel);
+    m_isLayingOut = false;
 }
 
 void ListGrid::ClearRows()
 {
-    clear();
+    m_model->Clear();
 }
 
-void ListGrid::AddRow(const QStringList& subItems)
+void ListGrid::AddRow(const QStringList& subItems, Sheet::RowKind kind)
 {
-    auto* item = new QTreeWidgetItem(QStringList{QString()} + subItems);
-    for (int i = 1; i < columnCount(); ++i)
-        item->setTextAlignment(i, m_alignments[static_cast<std::size_t>(i)]);
-    addTopLevelItem(item);
+    m_model->Append({{subItems, kind}});
 }
 
-QString ListGrid::SubItem(int row, int index) const
+void ListGrid::AddRows(std::vector<Sheet::Row> rows)
 {
-    const QTreeWidgetItem* item = topLevelItem(row);
-    return item ? item->text(index) : QString();
+    m_model->Append(std::move(rows));
 }
 
-int ListGrid::SelectedRow() const
+void ListGrid::SetSubItem(int row, int index, const QString& text)
 {
-    return currentItem() ? indexOfTopLevelItem(currentItem()) : -1;
+    m_model->SetText(row, index, text);
 }
 
-void ListGrid::SelectRow(int row)
+void ListGrid::SortByNumber(int index, Qt::SortOrder order)
 {
-    setCurrentItem(topLevelItem(row));
+    m_model->SortByNumber(index, order);
 }
 
 int ListGrid::ColumnWidthTwips(int index) const
 {
-    return index >= 0 && static_cast<std::size_t>(index) < m_widths.size()
-               ? m_widths[static_cast<std::size_t>(index)]
-               : 0;
+    return index >= 0 && index < Content().ColumnCount() ? Content().Column(index).widthTwips : 0;
+}
+
+QRect ListGrid::RowRect(int row) const
+{
+    const QRect cell = visualRect(Cell(row));
+    return cell.isEmpty() ? QRect() : QRect(-header()->offset(), cell.y(), header()->length(), cell.height());
+}
+
+QModelIndex ListGrid::Cell(int row) const
+{
+    // Not of the blank column in front: it is hidden, and arrow keys do not find their way from there.
+    return m_model->index(row, std::min(1, Content().ColumnCount() - 1));
+}
+
+int ListGrid::SelectedRow() const
+{
+    const QItemSelection selection = selectionModel()->selection();
+    return selection.isEmpty() ? -1 : selection.first().top();
+}
+
+void ListGrid::SelectRow(int row)
+{
+    const QModelIndex cell = Cell(row);
+    if (cell.isValid())
+        setCurrentIndex(cell);
+    else
+        selectionModel()->clear();
+}
+
+int ListGrid::CurrentRow() const
+{
+    return currentIndex().row(); // -1 of an invalid index
+}
+
+void ListGrid::MakeCurrent(int row)
+{
+    selectionModel()->clear();
+    selectionModel()->setCurrentIndex(Cell(std::min(row, RowCount() - 1)), QItemSelectionModel::NoUpdate);
 }
 
 void ListGrid::keyPressEvent(QKeyEvent* event)
 {
-    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) && SelectedRow() >= 0) {
+    const int key = event->key();
+    if ((key == Qt::Key_Return || key == Qt::Key_Enter) && SelectedRow() >= 0) {
         emit RowChosen(SelectedRow());
         return;
     }
-    QTreeWidget::keyPressEvent(event);
+    if ((key == Qt::Key_Up || key == Qt::Key_Down) && SelectedRow() < 0 && CurrentRow() >= 0) {
+        SelectRow(CurrentRow()); // by the usual way it would be passed over
+        return;
+    }
+    QTreeView::keyPressEvent(event);
+}
+
+void ListGrid::drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    QTreeView::drawRow(painter, option, index);
+    if (index.row() != CurrentRow() || selectionModel()->isSelected(index))
+        return;
+    painter->setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter->setBrush(Qt::NoBrush);
+    painter->drawRect(RowRect(index.row()).adjusted(1, 1, -1, -1));
 }
 
 void LoadColumnHeaders(ListGrid* list, const QString& reportName, bool normal)
 {
-    // The two blanks before "And" are how the statement has always been written.
-    const QString where = u"RptName='"_s + reportName +
-                          (normal ? u"'  And ColStatus='1' Order By ColOrder ASC"_s
-                                  : u"'  And TempStatus='1' Order By TempOrder ASC"_s);
-    RecordSet rows = Gateway().SelectRows(
-        u"DFN_RptCol"_s, u"ColName,ColWidth,ColAlign,ColStatus,ColOrder,TempStatus,TempOrder"_s, where);
-    if (rows.Eof())
-        return;
-    std::vector<ListGrid::Column> columns;
-    for (; !rows.Eof(); rows.MoveNext()) {
-        ListGrid::Column column;
-        column.header = rows.Text(0);
-        column.widthTwips = static_cast<int>(std::clamp(LeadingNumber(rows.Text(1)), 0.0, WidestColumn));
-        const QString align = rows.Text(2);
-        column.alignment = align == u"1" ? Qt::AlignRight : align == u"2" ? Qt::AlignHCenter : Qt::AlignLeft;
-        columns.push_back(column);
-    }
-    list->SetColumns(columns);
+    std::vector<SheetColumn> columns = ReportColumns(reportName, normal);
+    if (!columns.empty())
+        list->SetColumns(std::move(columns));
 }

@@ -1,46 +1,59 @@
 #pragma once
 
+#include "core/common/Sheet.h"
+
 #include <QString>
 #include <QStringList>
-#include <QTreeWidget>
+#include <QTreeView>
 
 #include <vector>
 
-/// A list with sub-items by position: each row has a blank text of width 0 in front (column 0), so that
-/// sub-item 1 is the first column a user sees, and the row's key in every list.
-class ListGrid : public QTreeWidget {
+class SheetModel;
+
+/// The list of a window: a sheet on the screen. Rows count from 0 as shown, sub-items from 1, as in the
+/// sheet; printers and exports read Content(), which has the widths as the user left them.
+class ListGrid : public QTreeView {
     Q_OBJECT
 
 public:
-    struct Column {
-        QString header;
-        int widthTwips = 0;
-        Qt::Alignment alignment = Qt::AlignLeft;
-    };
-
     explicit ListGrid(QWidget* parent = nullptr);
 
-    /// Replaces the headers, the blank one in front included, and drops the rows.
-    void SetColumns(const std::vector<Column>& columns);
+    const Sheet& Content() const;
 
+    /// Shows another sheet, rows and columns.
+    void Show(Sheet sheet);
+    /// Replaces the headings, the blank one in front included, and drops the rows.
+    void SetColumns(std::vector<SheetColumn> columns);
     void ClearRows();
     /// Appends a row; the first text is sub-item 1.
-    void AddRow(const QStringList& subItems);
-    int RowCount() const { return topLevelItemCount(); }
+    void AddRow(const QStringList& subItems, Sheet::RowKind kind = Sheet::RowKind::Record);
+    /// Appends many at once, which is cheaper by far while the list is visible.
+    void AddRows(std::vector<Sheet::Row> rows);
+    void SetSubItem(int row, int index, const QString& text);
+    /// Sheet::SortByNumber; what is selected or current goes with its row.
+    void SortByNumber(int index, Qt::SortOrder order);
 
-    /// Sub-item of a row, both counted as the screen shows them: rows from 0, sub-items from 1. "" where
-    /// there is none.
-    QString SubItem(int row, int index) const;
+    int RowCount() const { return Content().RowCount(); }
+    /// "" where there is none.
+    QString SubItem(int row, int index) const { return Content().Text(row, index); }
+    /// Twips: the width as defined, or the pixels times 15 once a user has dragged the column. 0 for the
+    /// blank column in front and where there is none.
+    int ColumnWidthTwips(int index) const;
+    /// Where a row stands on the viewport, over all its columns; empty for a row that is not there.
+    QRect RowRect(int row) const;
 
     /// The selected row, -1 without one.
     int SelectedRow() const;
+    /// Selects a row and makes it current; a row that is not there leaves neither.
     void SelectRow(int row);
     /// Sub-item 1 of the selected row, "" without one.
     QString SelectedKey() const { return SubItem(SelectedRow(), 1); }
 
-    /// Twips: the width as defined, or the pixels times 15 once a user has dragged the column. The blank
-    /// column in front is 0.
-    int ColumnWidthTwips(int index) const;
+    /// The row where the arrow keys start, -1 without one. Without a selection it is marked by a frame.
+    int CurrentRow() const;
+    /// Makes a row current (the last one, for a row behind it) and selects nothing: the next arrow key,
+    /// blank or click selects.
+    void MakeCurrent(int row);
 
 signals:
     /// Double click on a row, or Enter in the list.
@@ -48,14 +61,18 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) const override;
 
 private:
-    std::vector<int> m_widths;
-    std::vector<Qt::Alignment> m_alignments;
-    bool m_isSettingColumns = false;
+    void LayOutColumns();
+    /// The cell of a row that stands for it where a view asks for a cell.
+    QModelIndex Cell(int row) const;
+
+    SheetModel* m_model;
+    bool m_isLayingOut = false;
 };
 
-/// Sets a list's columns from the DFN_RptCol rows of a report: those shown in the normal layout, or with
-/// `normal` false those of the alternate one. Without rows the list keeps its columns.
-/// @throws DatabaseError
+/// Sets a list's columns to those of a report; without any the list keeps its columns and rows. See
+/// ReportColumns. @throws DatabaseError
 void LoadColumnHeaders(ListGrid* list, const QString& reportName, bool normal);

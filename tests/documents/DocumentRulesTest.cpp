@@ -1,11 +1,11 @@
 #include "tests/documents/DocumentTest.h"
 
 #include "core/session/Session.h"
+#include "goods/frmPrintEStore.h"
+#include "goods/frmTemp.h"
 #include "printing/PrintQueue.h"
 #include "printing/clsPrint.h"
 #include "printing/ctlPreview.h"
-#include "printing/frmPrintEStore.h"
-#include "printing/frmTemp.h"
 
 #include <QAction>
 #include <QComboBox>
@@ -14,6 +14,9 @@
 #include <QLabel>
 #include <QMdiArea>
 #include <QPushButton>
+#include <QToolBar>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -27,11 +30,11 @@ double Place(const QString& call, int index)
 
 class PrintedForm : public DocumentTest {
 protected:
-    QStringList Draw(const QString& document, bool prePrinted)
+    QStringList Draw(const QString& document, PrintMode mode)
     {
         if (!FormOf(document))
             Fill(document);
-        Print(document, prePrinted, !prePrinted);
+        Print(document, mode);
         return TakeDrawing();
     }
     /// The first call that ends with the text in quotes.
@@ -50,6 +53,11 @@ protected:
     void SetStyle(const QString& paper, const QString& style)
     {
         Db().Run(u"UPDATE DFN_Paper SET PrintStyle='%1' WHERE PaperID='%2'"_s.arg(style, paper));
+    }
+    /// The box of a document that is neither on paper nor a file.
+    static QString Lost(const QString& title, const QString& reason)
+    {
+        return u"%1没有打印，也没有存成文件！\n%2"_s.arg(title, reason);
     }
     /// Where documents would go, a file stands: nothing can be printed.
     void BlockThePrinter()
@@ -73,14 +81,13 @@ TEST_F(PrintedForm, AHiddenControlStaysOffTicketsAdvancesAndSettlements)
     };
     for (const auto& [document, control, text] : hidden) {
         Fill(document);
-        for (const bool prePrinted : {true, false}) {
-            const bool hasBlank = control.startsWith(u"txt") && !(prePrinted && document == u"ticket");
+        for (const PrintMode mode : {PrintMode::Stationery, PrintMode::Sheet}) {
+            const bool hasBlank =
+                control.startsWith(u"txt") && !(mode == PrintMode::Stationery && document == u"ticket");
             const QString printed = hasBlank ? text + u' ' : text;
-            EXPECT_TRUE(Has(printed, Draw(document, prePrinted)))
-                << document.toStdString() << text.toStdString();
+            EXPECT_TRUE(Has(printed, Draw(document, mode))) << document.toStdString() << text.toStdString();
             FormOf(document)->findChild<QWidget*>(control)->hide();
-            EXPECT_FALSE(Has(printed, Draw(document, prePrinted)))
-                << document.toStdString() << text.toStdString();
+            EXPECT_FALSE(Has(printed, Draw(document, mode))) << document.toStdString() << text.toStdString();
             FormOf(document)->findChild<QWidget*>(control)->show();
         }
         FormOf(document)->close();
@@ -93,18 +100,18 @@ TEST_F(PrintedForm, AHiddenLabelAndLineOfATicketStayOff)
 {
     Fill(u"ticket"_s);
     const auto linesOf = [](const QStringList& drawing) { return drawing.filter(u"line "_s).size(); };
-    const auto before = linesOf(Draw(u"ticket"_s, false));
+    const auto before = linesOf(Draw(u"ticket"_s, PrintMode::Sheet));
     FormOf(u"ticket"_s)->findChild<QWidget*>(u"Tline_3"_s)->hide();
-    EXPECT_EQ(linesOf(Draw(u"ticket"_s, false)), before - 1);
+    EXPECT_EQ(linesOf(Draw(u"ticket"_s, PrintMode::Sheet)), before - 1);
 }
 
 TEST_F(PrintedForm, AFormThatIsNotOnTheScreenPrintsAllTheSame)
 {
     Fill(u"ticket"_s);
-    const QStringList drawing = Draw(u"ticket"_s, false);
+    const QStringList drawing = Draw(u"ticket"_s, PrintMode::Sheet);
     EXPECT_TRUE(Has(u"0038215 "_s, drawing));
     FormOf(u"ticket"_s)->hide();
-    EXPECT_EQ(Draw(u"ticket"_s, false), drawing);
+    EXPECT_EQ(Draw(u"ticket"_s, PrintMode::Sheet), drawing);
 }
 
 TEST_F(PrintedForm, SlipsPrintEveryTextBoxVisibleOrNot)
@@ -112,10 +119,10 @@ TEST_F(PrintedForm, SlipsPrintEveryTextBoxVisibleOrNot)
     for (const auto& [document, control, text] : QList<std::tuple<QString, QString, QString>>{
              {u"lot-slip"_s, u"txtMemo"_s, u"第三车，外箱略潮，先卖；司机电话留在磅单背面"_s},
              {u"stock-change"_s, u"txtMemo"_s, u"压坏，已当面点清"_s}}) {
-        for (const bool prePrinted : {true, false}) {
+        for (const PrintMode mode : {PrintMode::Stationery, PrintMode::Sheet}) {
             Fill(document);
             FormOf(document)->findChild<QWidget*>(control)->hide();
-            EXPECT_TRUE(Has(prePrinted ? text : text + u' ', Draw(document, prePrinted)));
+            EXPECT_TRUE(Has(mode == PrintMode::Stationery ? text : text + u' ', Draw(document, mode)));
         }
     }
 }
@@ -124,17 +131,17 @@ TEST_F(PrintedForm, TheMoneyPaidNeverReachesATicket)
 {
     Fill(u"ticket"_s);
     Find(u"frmSale"_s, u"txtRPrice"_s)->setText(u"90000"_s);
-    for (const bool prePrinted : {true, false}) {
-        const QStringList drawing = Draw(u"ticket"_s, prePrinted);
+    for (const PrintMode mode : {PrintMode::Stationery, PrintMode::Sheet}) {
+        const QStringList drawing = Draw(u"ticket"_s, mode);
         EXPECT_FALSE(drawing.isEmpty());
-        EXPECT_TRUE(drawing.filter(u"90000"_s).isEmpty()) << prePrinted;
+        EXPECT_TRUE(drawing.filter(u"90000"_s).isEmpty()) << int(mode);
     }
 }
 
 TEST_F(PrintedForm, ButtonsAndDisplaysOfTheTillStayOffTheTicket)
 {
     Fill(u"ticket"_s);
-    const QStringList drawing = Draw(u"ticket"_s, false);
+    const QStringList drawing = Draw(u"ticket"_s, PrintMode::Sheet);
     for (const QString& text : {u"保存"_s, u"关闭"_s, u"本批收款"_s, u"找零"_s, u"付款"_s})
         EXPECT_FALSE(Has(text, drawing)) << text.toStdString();
     for (const QString& text : {u"编号"_s, u"收银员"_s})
@@ -144,11 +151,11 @@ TEST_F(PrintedForm, ButtonsAndDisplaysOfTheTillStayOffTheTicket)
 TEST_F(PrintedForm, ThePaymentPrintsOnStationeryButNotOnAFramedTicket)
 {
     Fill(u"ticket"_s);
-    const QString call = CallOf(u"现金"_s, Draw(u"ticket"_s, true));
+    const QString call = CallOf(u"现金"_s, Draw(u"ticket"_s, PrintMode::Stationery));
     const QWidget* combo = FormOf(u"ticket"_s)->findChild<QComboBox*>(u"cmbSaleType"_s);
     EXPECT_EQ(Place(call, 0), combo->x() * 15);
     EXPECT_NEAR(Place(call, 1), combo->y() * 15 * 1.33 + 120, 0.06);
-    EXPECT_FALSE(Has(u"现金"_s, Draw(u"ticket"_s, false)));
+    EXPECT_FALSE(Has(u"现金"_s, Draw(u"ticket"_s, PrintMode::Sheet)));
 }
 
 TEST_F(PrintedForm, OnlyTheLinesOfThePaperAreRuled)
@@ -164,13 +171,16 @@ TEST_F(PrintedForm, OnlyTheLinesOfThePaperAreRuled)
         for (const QFrame* frame : frames)
             lines += frame->objectName().startsWith(name + u'_') ? 1 : 0;
         EXPECT_GT(lines, 5);
-        EXPECT_EQ(Draw(document, false).filter(u"line "_s).size(), lines) << document.toStdString();
-        EXPECT_EQ(Draw(document, true).filter(u"line "_s).size(), 0) << document.toStdString();
+        EXPECT_EQ(Draw(document, PrintMode::Sheet).filter(u"line "_s).size(), lines)
+            << document.toStdString();
+        EXPECT_EQ(Draw(document, PrintMode::Stationery).filter(u"line "_s).size(), 0)
+            << document.toStdString();
         // The other spelling is another name.
         FormOf(document)
             ->findChild<QFrame*>(name + u"_1"_s)
             ->setObjectName(name == u"TLine" ? u"Tline_1"_s : u"TLine_1"_s);
-        EXPECT_EQ(Draw(document, false).filter(u"line "_s).size(), lines - 1) << document.toStdString();
+        EXPECT_EQ(Draw(document, PrintMode::Sheet).filter(u"line "_s).size(), lines - 1)
+            << document.toStdString();
         FormOf(document)->close();
         Settle();
         Db().Run(u"DELETE FROM Sal_List; DELETE FROM CustDebit"_s);
@@ -183,9 +193,9 @@ TEST_F(PrintedForm, NegativeOffsetsShiftThePrintUpAndLeft)
 {
     for (const QString& document : DocumentNames()) {
         SetOffsets(document, u"0"_s, u"0"_s);
-        const QStringList before = Draw(document, true);
+        const QStringList before = Draw(document, PrintMode::Stationery);
         SetOffsets(document, u"-0.4"_s, u"-0.2"_s);
-        const QStringList after = Draw(document, true);
+        const QStringList after = Draw(document, PrintMode::Stationery);
         ASSERT_EQ(before.size(), after.size());
         int texts = 0;
         for (int i = 0; i < before.size(); ++i) {
@@ -207,9 +217,9 @@ TEST_F(PrintedForm, FramedSlipsAndTicketsTakeNoTopOffset)
 {
     for (const QString& document : {u"lot-slip"_s, u"stock-change"_s, u"ticket"_s}) {
         SetOffsets(document, u"0"_s, u"0"_s);
-        const QStringList before = Draw(document, false);
+        const QStringList before = Draw(document, PrintMode::Sheet);
         SetOffsets(document, u"0"_s, u"3"_s);
-        EXPECT_EQ(Draw(document, false), before) << document.toStdString();
+        EXPECT_EQ(Draw(document, PrintMode::Sheet), before) << document.toStdString();
     }
 }
 
@@ -218,18 +228,14 @@ TEST_F(PrintedForm, TheUserStandsLowerOnTheStationeryOfASlip)
     for (const QString& document : {u"lot-slip"_s, u"stock-change"_s}) {
         Fill(document);
         const double top = FormOf(document)->findChild<QWidget*>(u"txtUserID"_s)->y() * 15 + 120;
-        EXPECT_NEAR(Place(CallOf(u"01"_s, Draw(document, true)), 1), top + 1247.4, 0.06);
-        EXPECT_NEAR(Place(CallOf(u"01 "_s, Draw(document, false)), 1), top, 0.06);
+        EXPECT_NEAR(Place(CallOf(u"01"_s, Draw(document, PrintMode::Stationery)), 1), top + 1247.4, 0.06);
+        EXPECT_NEAR(Place(CallOf(u"01 "_s, Draw(document, PrintMode::Sheet)), 1), top, 0.06);
     }
 }
 
-TEST_F(PrintedForm, TheDocumentsUnloadTheirOwnFormsAndLeaveTheOthers)
+TEST_F(PrintedForm, ADocumentLeavesItsFormAsItWas)
 {
-    Draw(u"lot-slip"_s, true);
-    Draw(u"stock-change"_s, false);
-    EXPECT_EQ(frmTemp::Loaded(), nullptr);
-    EXPECT_EQ(frmPrintEStore::Loaded(), nullptr);
-    Draw(u"ticket"_s, true);
+    Draw(u"ticket"_s, PrintMode::Stationery);
     EXPECT_NE(Windows().Find(u"frmSale"_s), nullptr);
     EXPECT_EQ(TextOf(u"frmSale"_s, u"txtListNo"_s), u"0038215"_s);
 }
@@ -240,7 +246,7 @@ TEST_F(PrintedForm, EachDocumentFitsAnA5SheetLyingWithRoomForThePrintersEdges)
     for (const QString& document : DocumentNames()) {
         Fill(document);
         Session::PaperSizeCode = 11;
-        const QStringList drawing = Draw(document, false);
+        const QStringList drawing = Draw(document, PrintMode::Sheet);
         for (const QString& call : drawing.filter(u"line "_s)) {
             EXPECT_GE(Place(call, 0), Edge) << call.toStdString();
             EXPECT_LE(Place(call, 2), 11907 - Edge) << call.toStdString();
@@ -258,13 +264,24 @@ TEST_F(PrintedForm, EachDocumentFitsAnA5SheetLyingWithRoomForThePrintersEdges)
     }
 }
 
+TEST_F(PrintedForm, AHeadingWiderThanTheSheetIsNarrowedToTheSheet)
+{
+    const QString company = u"海南崖州热带果业合作社联合社江南果品批发市场南区代销总行第十二经营部"_s;
+    Db().Run(u"UPDATE Sys_Define SET CompName='%1'"_s.arg(company));
+    const QString heading = company + u"商品登记单"_s; // of 24 pixels each
+    const double fitting = std::floor(100.0 * 794 / (24.0 * heading.size()));
+    const QString call = CallOf(heading, Draw(u"lot-slip"_s, PrintMode::Sheet));
+    EXPECT_TRUE(call.contains(u" bold stretch %1 \""_s.arg(fitting))) << call.toStdString();
+    EXPECT_EQ(Place(call, 0), 0);
+}
+
 TEST_F(PrintedForm, AFontMeasuredInPixelsPrintsAsLargeAsOnTheForm)
 {
     Fill(u"ticket"_s);
     QFont font = Find(u"frmSale"_s, u"txtListNo"_s)->font();
     font.setPixelSize(20); // of 15 twips each
     Find(u"frmSale"_s, u"txtListNo"_s)->setFont(font);
-    EXPECT_TRUE(CallOf(u"0038215 "_s, Draw(u"ticket"_s, false)).contains(u"\" 15 "_s));
+    EXPECT_TRUE(CallOf(u"0038215 "_s, Draw(u"ticket"_s, PrintMode::Sheet)).contains(u"\" 15 "_s));
 }
 
 // The preview
@@ -275,12 +292,12 @@ TEST_F(PrintedForm, NeitherStyleGoesToThePreviewWhichOpensByItself)
     Documents();
     ASSERT_NE(Windows().Find(u"frmPrint"_s), nullptr);
     EXPECT_FALSE(Windows().Find(u"frmPrint"_s)->Widget()->isVisible());
-    Print(u"ticket"_s, false, false);
+    Print(u"ticket"_s, PrintMode::Preview);
     EXPECT_TRUE(Printer().isVisible());
     EXPECT_EQ(Printer().windowTitle(), u"打印预览"_s);
     const QStringList preview = TakeDrawing();
     EXPECT_EQ(preview.value(0), u"start preview 1 11907 16832"_s);
-    EXPECT_EQ(preview.mid(1), Draw(u"ticket"_s, false).mid(1));
+    EXPECT_EQ(preview.mid(1), Draw(u"ticket"_s, PrintMode::Sheet).mid(1));
     EXPECT_EQ(PdfFiles().size(), 1); // the one that was printed
 
     const QImage page = Printer().PagePreview().Picture();
@@ -298,7 +315,7 @@ TEST_F(PrintedForm, ThePreviewHasThePaperOfTheSettings)
     Fill(u"ticket"_s);
     const auto pageFor = [this](int code) {
         Session::PaperSizeCode = static_cast<std::int16_t>(code);
-        Print(u"ticket"_s, false, false);
+        Print(u"ticket"_s, PrintMode::Preview);
         return TakeDrawing().value(0);
     };
     EXPECT_EQ(pageFor(9), u"start preview 1 11907 16832"_s);
@@ -310,13 +327,13 @@ TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
 {
     auto* frame = Open(u"frmMain"_s);
     Fill(u"ticket"_s);
-    Print(u"ticket"_s, false, false);
+    Print(u"ticket"_s, PrintMode::Preview);
     const auto* area = frame->findChild<QMdiArea*>();
     ASSERT_NE(area, nullptr);
     EXPECT_TRUE(area->isAncestorOf(&Printer()));
 
     for (const QString& key : {u"mnuSetup"_s, u"mnuPrint"_s}) {
-        EXPECT_FALSE(Printer().findChild<QAction*>(key)->isEnabled());
+        EXPECT_FALSE(Printer().findChild<QAction*>(key)->isVisible());
         Printer().findChild<QAction*>(key)->trigger();
     }
     Settle();
@@ -332,14 +349,37 @@ TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
     Printer().findChild<QAction*>(u"mnuExit"_s)->trigger();
     Settle();
     EXPECT_EQ(Windows().Find(u"frmPrint"_s), nullptr);
-    Print(u"ticket"_s, false, false); // a new one opens
+    Print(u"ticket"_s, PrintMode::Preview); // a new one opens
     EXPECT_TRUE(Printer().isVisible());
+}
+
+TEST_F(PrintedForm, ThePreviewsStripHasOneGroundAndNothingThatDoesNothing)
+{
+    Open(u"frmMain"_s);
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, PrintMode::Preview);
+    Settle();
+    const auto* strip = Printer().findChild<QToolBar*>(u"menuBar"_s);
+    QStringList seen;
+    for (const QAction* action : strip->actions()) {
+        if (action->isVisible())
+            seen << action->objectName();
+    }
+    EXPECT_EQ(seen, QStringList{u"mnuExit"_s});
+    for (const QString& name : {u"cmbmnuZoom"_s, u"cbmPageRec"_s, u"Command1"_s})
+        EXPECT_FALSE(Printer().findChild<QWidget*>(name)->isVisible()) << name.toStdString();
+
+    const QImage window = Printer().grab().toImage();
+    const int height = strip->height() / 2;
+    for (const int x : {window.width() / 4, window.width() / 2, window.width() - 3})
+        EXPECT_EQ(window.pixel(x, height), window.pixel(window.width() / 3, height)) << x;
+    EXPECT_EQ(strip->geometry().right(), Printer().rect().right());
 }
 
 TEST_F(PrintedForm, EscapeLeavesThePreview)
 {
     Fill(u"ticket"_s);
-    Print(u"ticket"_s, false, false);
+    Print(u"ticket"_s, PrintMode::Preview);
     Printer().activateWindow();
     Printer().setFocus();
     Settle();
@@ -389,17 +429,23 @@ TEST_F(PrintedForm, ASettlementIsPrintedWhileItsFieldsAreFilled)
 
 // When printing fails
 
-TEST_F(PrintedForm, AFailedPrintLeavesARowAndNoWord)
+TEST_F(PrintedForm, ALostDocumentLeavesARowAndIsTold)
 {
     BlockThePrinter();
-    const QList<std::pair<QString, QString>> labels{
-        {u"lot-slip"_s, u"打印客户信息"_s},   {u"stock-change"_s, u"打印客户信息"_s},
-        {u"ticket"_s, u"打印收银清单"_s},     {u"advance"_s, u"打印预支款清单"_s},
-        {u"settlement"_s, u"打印结算清单"_s}, {u"settlement-a"_s, u"打印结算清单"_s},
+    const QList<std::tuple<QString, QString, QString>> labels{
+        {u"lot-slip"_s, u"打印客户信息"_s, u"商品登记单"_s},
+        {u"stock-change"_s, u"打印客户信息"_s, u"库存变更单"_s},
+        {u"ticket"_s, u"打印收银清单"_s, u"收款清单"_s},
+        {u"advance"_s, u"打印预支款清单"_s, u"预支款登记单"_s},
+        {u"settlement"_s, u"打印结算清单"_s, u"结算清单"_s},
+        {u"settlement-a"_s, u"打印结算清单"_s, u"结算清单"_s},
     };
-    for (const auto& [document, label] : labels) {
+    for (const auto& [document, label, title] : labels) {
         Fill(document);
+        boxes.Expect(Lost(title, u"无法建立文件夹："_s + PdfFolder()));
         PrintFailing(document);
+        Settle();
+        boxes.Verify();
         const auto rows = Db().Rows(u"SELECT ErrSource,ErrUserName FROM ErrInfo"_s);
         ASSERT_EQ(rows.size(), 1U) << document.toStdString();
         EXPECT_EQ(rows[0], (QStringList{label, u"管理员"_s}));
@@ -408,8 +454,6 @@ TEST_F(PrintedForm, AFailedPrintLeavesARowAndNoWord)
             form->close();
         Settle();
     }
-    EXPECT_EQ(frmTemp::Loaded(), nullptr);
-    EXPECT_EQ(frmPrintEStore::Loaded(), nullptr);
 }
 
 TEST_F(PrintedForm, AFailedPrintNeitherUndoesNorRepeatsTheSave)
@@ -417,7 +461,13 @@ TEST_F(PrintedForm, AFailedPrintNeitherUndoesNorRepeatsTheSave)
     SetStyle(u"P03"_s, u"2"_s);
     Fill(u"ticket"_s);
     BlockThePrinter();
+    boxes.Expect(Lost(u"收款清单"_s, u"无法建立文件夹："_s + PdfFolder()));
+    boxes.WhileOpen([this] { // the save is over, its screen cleared
+        EXPECT_EQ(Value(u"SELECT CurrNumber FROM Count_Bill WHERE TID='01'"_s), u"1"_s);
+        EXPECT_EQ(TextOf(u"frmSale"_s, u"txtNum"_s), QString());
+    });
     Press(Qt::Key_S, Qt::AltModifier);
+    boxes.Verify();
     EXPECT_EQ(Count(u"Sal_List"_s), 1);
     EXPECT_EQ(Value(u"SELECT Num_Sal+0 FROM PRD_List"_s), u"11610.000000"_s);
     EXPECT_EQ(Value(u"SELECT CurrNumber FROM Count_Bill WHERE TID='01'"_s), u"1"_s);
@@ -434,27 +484,38 @@ TEST_F(PrintedForm, AFailedPrintNeitherUndoesNorRepeatsTheSave)
     EXPECT_EQ(PdfFiles().size(), 1);
 }
 
-TEST_F(PrintedForm, AFailedLookupOfTheOffsetsIsARowToo)
+TEST_F(PrintedForm, AFailedLookupOfTheOffsetsIsToldToo)
 {
     Fill(u"ticket"_s);
     Db().Run(u"RENAME TABLE DFN_Paper TO DFN_Paper_Away"_s);
+    const QString table = u"%1.DFN_Paper"_s.arg(Value(u"SELECT DATABASE()"_s));
+    boxes.Expect(Lost(u"收款清单"_s, u"Table '%1' doesn't exist"_s.arg(table)));
     PrintFailing(u"ticket"_s);
+    Settle();
+    boxes.Verify();
     Db().Run(u"RENAME TABLE DFN_Paper_Away TO DFN_Paper"_s);
     EXPECT_EQ(PdfFiles(), QStringList());
-}
-
-TEST_F(PrintedForm, ADocumentOfAWindowThatIsNotOpenIsARow)
-{
-    PrintFailing(u"ticket"_s);
-    EXPECT_EQ(Value(u"SELECT ErrSource FROM ErrInfo"_s), u"打印收银清单"_s);
 }
 
 TEST_F(PrintedForm, WithoutAConnectionNothingComesOutOfAPrint)
 {
     Fill(u"ticket"_s);
     FailStatement(1, Refusal::LostLink);
+    boxes.ExpectContaining(Lost(u"收款清单"_s, QString()));
     PrintFailing(u"ticket"_s);
+    Settle();
+    boxes.Verify();
     EXPECT_EQ(Count(u"ErrInfo"_s), 0); // the row needs the connection too
+}
+
+TEST_F(PrintedForm, APreviewThatFailsIsNoLostDocument)
+{
+    Fill(u"ticket"_s);
+    FailStatement(1, Refusal::MissingTable);
+    Documents().Print(Document::SaleList, PrintMode::Preview, *FormOf(u"ticket"_s));
+    Settle();
+    EXPECT_EQ(boxes.Seen(), QStringList());
+    EXPECT_FALSE(Printer().isVisible());
 }
 
 // What people type and sites set
@@ -466,20 +527,20 @@ TEST_F(PrintedForm, OddTextsPlacesAndPapersPrintAllTheSame)
                             u"🍎𠮷é'\\\""_s};
     for (const QString& text : texts) {
         FormOf(u"ticket"_s)->findChild<QLabel*>(u"lblTotal"_s)->setText(text);
-        Print(u"ticket"_s, true, false);
+        Print(u"ticket"_s, PrintMode::Stationery);
         EXPECT_TRUE(TakeDrawing().filter(u"bold"_s).size() > 0);
     }
     for (const int code : {-5, 0, 1, 256, 32000}) {
         Session::PaperSizeCode = static_cast<std::int16_t>(code);
-        Print(u"ticket"_s, false, true);
+        Print(u"ticket"_s, PrintMode::Sheet);
     }
     Session::PaperSizeCode = 9;
     for (const QString& offset : {u"100"_s, u"-100"_s, u"99999999999999"_s}) {
         SetOffsets(u"ticket"_s, offset, offset);
-        Print(u"ticket"_s, true, false);
+        Print(u"ticket"_s, PrintMode::Stationery);
     }
     Db().Run(u"DELETE FROM DFN_Paper"_s);
-    Print(u"ticket"_s, false, true); // without a row nothing is shifted
+    Print(u"ticket"_s, PrintMode::Sheet); // without a row nothing is shifted
     EXPECT_EQ(PdfFiles().size(), texts.size() + 5 + 3 + 1);
 }
 
@@ -489,10 +550,10 @@ TEST_F(PrintedForm, AHundredDocumentsInARowOfOneSecondAreAHundredFiles)
         return QDir(u"/proc/self/fd"_s).entryList(QDir::Files | QDir::System).size();
     };
     Fill(u"ticket"_s);
-    Print(u"ticket"_s, false, true);
+    Print(u"ticket"_s, PrintMode::Sheet);
     const auto before = openFiles();
     for (int i = 1; i < 100; ++i)
-        Print(u"ticket"_s, i % 2 == 0, i % 2 != 0);
+        Print(u"ticket"_s, i % 2 == 0 ? PrintMode::Stationery : PrintMode::Sheet);
     EXPECT_EQ(PdfFiles().size(), 100);
     EXPECT_EQ(openFiles(), before);
 }

@@ -2,10 +2,10 @@
 
 #include "app/StartProgram.h"
 #include "core/session/Session.h"
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
+#include "goods/frmPrintEStore.h"
+#include "goods/frmTemp.h"
 #include "printing/PrintQueue.h"
-#include "printing/frmPrintEStore.h"
-#include "printing/frmTemp.h"
 #include "settlement/frmDebit.h"
 
 #include <QDir>
@@ -172,33 +172,27 @@ void DocumentTest::FillSettlement(const QString& form)
     Type(u"会计"_s);
 }
 
-void DocumentTest::Call(const QString& document, bool prePrinted, bool framed)
+void DocumentTest::Call(const QString& document, PrintMode mode)
 {
-    DocumentPrinter& documents = Documents();
+    static const QHash<QString, Document> documents{
+        {u"lot-slip"_s, Document::PRDList},    {u"stock-change"_s, Document::EStore},
+        {u"ticket"_s, Document::SaleList},     {u"advance"_s, Document::Debit},
+        {u"settlement"_s, Document::CheckOut}, {u"settlement-a"_s, Document::CheckOutA}};
     Printer().Record(&m_log);
-    if (document == u"lot-slip")
-        documents.PrintPRDList(prePrinted, framed);
-    else if (document == u"stock-change")
-        documents.PrintEStore(prePrinted, framed);
-    else if (document == u"ticket")
-        documents.PrintSaleList(prePrinted, framed);
-    else if (document == u"advance")
-        documents.PrintDebit(prePrinted, framed);
-    else if (document == u"settlement")
-        documents.PrintCheckOut(prePrinted, framed);
-    else
-        documents.PrintCheckOutA(prePrinted, framed);
+    Documents().Print(documents.value(document), mode, *FormOf(document));
+    frmTemp::Unload();
+    frmPrintEStore::Unload();
 }
 
-void DocumentTest::Print(const QString& document, bool prePrinted, bool framed)
+void DocumentTest::Print(const QString& document, PrintMode mode)
 {
-    Call(document, prePrinted, framed);
+    Call(document, mode);
     EXPECT_EQ(Count(u"ErrInfo"_s), 0) << Value(u"SELECT MAX(ErrDescription) FROM ErrInfo"_s).toStdString();
 }
 
 void DocumentTest::PrintFailing(const QString& document)
 {
-    Call(document, false, true);
+    Call(document, PrintMode::Sheet);
 }
 
 QWidget* DocumentTest::FormOf(const QString& document)

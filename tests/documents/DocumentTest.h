@@ -16,7 +16,7 @@ protected:
     /// Opens or loads the form of a document and fills it.
     void Fill(const QString& document);
     /// Prints it, as its caller does. The slips must be filled anew for each print.
-    void Print(const QString& document, bool prePrinted, bool framed);
+    void Print(const QString& document, PrintMode mode);
     /// The same where it is made to fail.
     void PrintFailing(const QString& document);
     /// The form that the document is.
@@ -31,7 +31,7 @@ protected:
     frmPrint& Printer();
 
 private:
-    void Call(const QString& document, bool prePrinted, bool framed);
+    void Call(const QString& document, PrintMode mode);
     void FillTicket();
     void FillAdvance();
     void FillSettlement(const QString& form);

@@ -1,17 +1,18 @@
 #include "tests/documents/DocumentTest.h"
 
+#include <QDir>
 #include <QFile>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Each document in one style, at three positions on the paper, drawn as tests/documents/golden says.
-/// tests/documents/rewrite-golden writes those files anew; their difference is then to be read.
+/// Each document on stationery and on a sheet, at three positions on the paper, drawn as
+/// tests/documents/golden says. tests/documents/rewrite-golden writes those files anew; their difference is
+/// then to be read. The preview needs no file: it is the sheet on the screen.
 struct Style {
     QString name;
-    bool prePrinted;
-    bool framed;
+    PrintMode mode;
 };
 
 struct Offsets {
@@ -19,8 +20,7 @@ struct Offsets {
     QString top;
 };
 
-const QList<Style> Styles{
-    {u"stationery"_s, true, false}, {u"sheet"_s, false, true}, {u"preview"_s, false, false}};
+const QList<Style> Styles{{u"stationery"_s, PrintMode::Stationery}, {u"sheet"_s, PrintMode::Sheet}};
 const QList<Offsets> Positions{{u"0"_s, u"0"_s}, {u"0.8"_s, u"1.2"_s}, {u"-0.5"_s, u"-0.3"_s}};
 
 bool IsRewriting()
@@ -30,6 +30,15 @@ bool IsRewriting()
 
 class GoldenDocument : public DocumentTest, public ::testing::WithParamInterface<QString> {
 protected:
+    QStringList Drawing(PrintMode mode, const Offsets& position)
+    {
+        SetOffsets(GetParam(), position.left, position.top);
+        if (!FormOf(GetParam()))
+            Fill(GetParam());
+        Print(GetParam(), mode);
+        return TakeDrawing();
+    }
+
     void ExpectGolden(const QString& name, const QStringList& lines)
     {
         QFile file(QStringLiteral(GOLDEN_FOLDER "/") + name + u".txt"_s);
@@ -46,22 +55,40 @@ protected:
 
 TEST_P(GoldenDocument, IsDrawnAsItsGoldenFileSays)
 {
-    const QString document = GetParam();
-    for (const Style& style : Styles) {
+    for (const auto& [name, mode] : Styles) {
         QStringList drawing;
-        for (const Offsets& position : Positions) {
-            SetOffsets(document, position.left, position.top);
-            if (!FormOf(document))
-                Fill(document);
-            Print(document, style.prePrinted, style.framed);
-            drawing << u"== left %1 cm, top %2 cm"_s.arg(position.left, position.top) << TakeDrawing();
-        }
-        ExpectGolden(document + u'-' + style.name, drawing);
+        for (const Offsets& position : Positions)
+            drawing << u"== left %1 cm, top %2 cm"_s.arg(position.left, position.top)
+                    << Drawing(mode, position);
+        ExpectGolden(GetParam() + u'-' + name, drawing);
+    }
+}
+
+TEST_P(GoldenDocument, OnThePreviewIsTheSheetWithoutItsPageBreak)
+{
+    for (const Offsets& position : Positions) {
+        QStringList sheet = Drawing(PrintMode::Sheet, position);
+        const QStringList preview = Drawing(PrintMode::Preview, position);
+        ASSERT_EQ(sheet.value(0), u"start printer 1"_s);
+        sheet[0] = u"start preview 1 11907 16832"_s; // A4
+        sheet.removeAll(u"new page"_s);              // which would wipe the preview
+        EXPECT_EQ(preview, sheet);
     }
 }
 
 INSTANTIATE_TEST_SUITE_P(Six, GoldenDocument, ::testing::ValuesIn(DocumentNames()), [](const auto& document) {
     return QString(document.param).remove(u'-').toStdString();
 });
+
+TEST(GoldenFiles, AreThoseOfTheDocumentsAndNoOthers)
+{
+    QStringList expected;
+    for (const QString& document : DocumentNames()) {
+        for (const Style& style : Styles)
+            expected << document + u'-' + style.name + u".txt"_s;
+    }
+    expected.sort();
+    EXPECT_EQ(QDir(QStringLiteral(GOLDEN_FOLDER)).entryList(QDir::Files, QDir::Name), expected);
+}
 
 } // namespace

@@ -2,6 +2,9 @@
 #include "tests/support/PrintServer.h"
 
 #include "core/session/Session.h"
+#include "printing/PrintQueue.h"
+
+#include <QDir>
 
 using namespace Qt::StringLiterals;
 
@@ -10,11 +13,11 @@ namespace {
 /// The documents through a real print server, to a printer that keeps what it gets.
 class RealQueue : public DocumentTest {
 protected:
-    void PrintAll(bool prePrinted)
+    void PrintAll(PrintMode mode)
     {
         for (const QString& document : DocumentNames()) {
             Fill(document);
-            Print(document, prePrinted, !prePrinted);
+            Print(document, mode);
             if (QWidget* form = FormOf(document))
                 form->close();
             Settle();
@@ -27,8 +30,8 @@ protected:
 
 TEST_F(RealQueue, EachDocumentArrivesAsOnePageUnderItsName)
 {
-    PrintAll(false);
-    PrintAll(true);
+    PrintAll(PrintMode::Sheet);
+    PrintAll(PrintMode::Stationery);
     const QList<ReceivedDocument> received = queue.Received(12);
     ASSERT_EQ(received.size(), 12);
     const QStringList titles{u"商品登记单"_s,   u"库存变更单"_s, u"收款清单"_s,
@@ -46,7 +49,7 @@ TEST_F(RealQueue, OnA5TheDocumentLiesAndIsOnePage)
 {
     Session::PaperSizeCode = 11;
     Fill(u"settlement"_s);
-    Print(u"settlement"_s, false, true);
+    Print(u"settlement"_s, PrintMode::Sheet);
     const QList<ReceivedDocument> received = queue.Received(1);
     ASSERT_EQ(received.size(), 1);
     EXPECT_EQ(PdfInfo(received[0].file, u"Pages"_s), u"1"_s);
@@ -74,6 +77,23 @@ TEST_F(RealQueue, AQueueGoneInTheMiddleOfASaveIsARowAndAFileAndTheSaveStands)
     EXPECT_EQ(queue.Received(1).size(), 1);
     EXPECT_EQ(Count(u"Sal_List"_s), 2);
     EXPECT_EQ(Count(u"ErrInfo"_s), 1);
+}
+
+TEST_F(RealQueue, ADocumentThatNeitherQueueNorFolderTakesIsToldAfterTheSave)
+{
+    Db().Run(u"UPDATE DFN_Paper SET PrintStyle='2' WHERE PaperID='P05'"_s);
+    Fill(u"settlement"_s);
+    queue.Run(u"cupsreject"_s, {u"till"_s});
+    ASSERT_TRUE(QDir(PdfFolder()).removeRecursively());
+    WriteProgramFile(u"单据PDF"_s, QString());
+    const QString reason = u"打印队列暂不接收单据，无法建立文件夹："_s + PdfFolder();
+    boxes.Expect(u"结算清单没有打印，也没有存成文件！\n"_s + reason);
+    boxes.WhileOpen([this] { EXPECT_EQ(Value(u"SELECT bolCheckOut FROM PRD_List"_s), u"1"_s); });
+    Press(Qt::Key_S, Qt::AltModifier);
+    boxes.Verify();
+    EXPECT_EQ(Count(u"CheckOut"_s), 1);
+    EXPECT_EQ(Value(u"SELECT ErrDescription FROM ErrInfo"_s), reason);
+    EXPECT_EQ(TextOf(u"frmCheckOut"_s, u"txtPRDNo"_s), QString()); // ready for the next lot
 }
 
 TEST_F(RealQueue, ASwitchedOffQueueNeitherUndoesNorRepeatsASettlement)

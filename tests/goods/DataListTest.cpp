@@ -54,8 +54,8 @@ protected:
     QStringList Headers()
     {
         QStringList headers;
-        for (int i = 1; i < List()->columnCount(); ++i)
-            headers << List()->headerItem()->text(i);
+        for (int i = 1; i < List()->Content().ColumnCount(); ++i)
+            headers << List()->Content().Column(i).heading;
         return headers;
     }
     void OpenList()
@@ -135,7 +135,7 @@ TEST_F(DataList, NoColumnClipsItsHeaderOrAUsualValue)
         Db().Run(u"UPDATE Sys_Define SET bolShowEStore='%1'"_s.arg(detailed));
         OpenList();
         int total = 0;
-        for (int i = 1; i < List()->columnCount(); ++i) {
+        for (int i = 1; i < List()->Content().ColumnCount(); ++i) {
             const int width = List()->header()->sectionSize(i);
             total += width;
             EXPECT_LE(List()->header()->sectionSizeHint(i), width) << qPrintable(Headers()[i - 1]);
@@ -169,7 +169,7 @@ TEST_F(DataList, DoubleClickAndEnterOpenTheLotForCorrection)
 {
     AddThreeLots();
     OpenList();
-    const QRect second = List()->visualItemRect(List()->topLevelItem(1));
+    const QRect second = List()->RowRect(1);
     QTest::mouseClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
     QTest::mouseDClick(List()->viewport(), Qt::LeftButton, Qt::NoModifier, second.center());
     Settle();
@@ -396,7 +396,7 @@ TEST_P(CodeDataList, IsOneStatementWithItsColumnsAndOpensItsEditWindow)
     EXPECT_EQ(TakeStatements(), (QStringList{list.statement}));
     EXPECT_EQ(Headers(), list.headers);
     EXPECT_EQ(ListRows(), list.expected);
-    for (int i = 1; i < List()->columnCount(); ++i)
+    for (int i = 1; i < List()->Content().ColumnCount(); ++i)
         EXPECT_LE(List()->header()->sectionSizeHint(i), List()->header()->sectionSize(i));
 
     Press(Qt::Key_F10, Qt::ShiftModifier);

@@ -6,26 +6,21 @@
 #include "goods/frmDataList.h"
 #include "goods/frmPRDList.h"
 #include "goods/frmSearchPRD.h"
-#include "printing/frmTemp.h"
+#include "goods/frmTemp.h"
 
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
 
-void PrintRecorder::PrintRpt(const QString& documentKey)
+void PrintRecorder::Print(Document document, PrintMode mode, const QWidget& form)
 {
-    calls << u"PrintRpt "_s + documentKey;
-}
-
-void PrintRecorder::PrintPRDList(bool prePrinted, bool framed)
-{
-    calls << u"PrintPRDList %1 %2"_s.arg(prePrinted).arg(framed);
-    ASSERT_NE(frmTemp::Loaded(), nullptr);
-    const auto boxes = frmTemp::Loaded()->findChildren<QLineEdit*>();
+    EXPECT_EQ(document, Document::PRDList);
+    calls << (mode == PrintMode::Stationery ? u"stationery"_s : u"sheet"_s);
+    const auto boxes = form.findChildren<QLineEdit*>();
     for (const QLineEdit* box : boxes)
         slip[box->objectName()] = box->text();
     for (const QString& heading : {u"lblCompName"_s, u"lblReportName"_s})
-        slip[heading] = frmTemp::Loaded()->findChild<QLabel*>(heading)->text();
+        slip[heading] = form.findChild<QLabel*>(heading)->text();
 }
 
 void GoodsTest::SetUp()
@@ -130,7 +125,7 @@ std::vector<QStringList> GoodsTest::ListRows()
     std::vector<QStringList> rows;
     for (int row = 0; row < List()->RowCount(); ++row) {
         QStringList texts;
-        for (int i = 1; i < List()->columnCount(); ++i)
+        for (int i = 1; i < List()->Content().ColumnCount(); ++i)
             texts << List()->SubItem(row, i);
         rows.push_back(texts);
     }

@@ -10,8 +10,7 @@ class ListGrid;
 /// Takes the place of the printer: notes each call, and the lot slip as it stood at the call.
 class PrintRecorder : public DocumentPrinter {
 public:
-    void PrintRpt(const QString& documentKey) override;
-    void PrintPRDList(bool prePrinted, bool framed) override;
+    void Print(Document document, PrintMode mode, const QWidget& form) override;
 
     QStringList calls;
     QMap<QString, QString> slip; ///< texts of the slip's text boxes and headings, by control

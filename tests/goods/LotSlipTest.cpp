@@ -1,5 +1,5 @@
-#include "printing/LotSlip.h"
-#include "printing/frmTemp.h"
+#include "goods/LotSlip.h"
+#include "goods/frmTemp.h"
 #include "tests/goods/GoodsTest.h"
 
 #include <QLabel>
@@ -35,14 +35,14 @@ const QStringList TheHeadings{u"SELECT CompName FROM Sys_Define"_s, u"SELECT Dep
 TEST_F(LotSlipPrint, StyleOnePrintsOnStationery)
 {
     Book(u"1"_s);
-    EXPECT_EQ(printer.calls, (QStringList{u"PrintRpt PRDList"_s, u"PrintPRDList 1 0"_s}));
+    EXPECT_EQ(printer.calls, QStringList{u"stationery"_s});
     EXPECT_EQ(TakeStatements().mid(10), TheSums + TheHeadings);
 }
 
 TEST_F(LotSlipPrint, StyleTwoPrintsWithTheFrame)
 {
     Book(u"2"_s);
-    EXPECT_EQ(printer.calls, (QStringList{u"PrintRpt PRDList"_s, u"PrintPRDList 0 1"_s}));
+    EXPECT_EQ(printer.calls, QStringList{u"sheet"_s});
 }
 
 TEST_F(LotSlipPrint, StyleZeroAndTextsMakeNoSlipAndTheSaveIsUnaffected)
@@ -68,7 +68,7 @@ TEST_F(LotSlipPrint, TheStyleIsTheOneOfTheOpening)
     SetStyle(u"0"_s);
     TypeNewLot();
     Press(Qt::Key_Return);
-    EXPECT_EQ(printer.calls.size(), 2);
+    EXPECT_EQ(printer.calls.size(), 1);
 }
 
 TEST_F(LotSlipPrint, SaysWhatTheLotIs)
@@ -122,7 +122,7 @@ TEST_F(LotSlipPrint, TheReprintReadsTheOpenLotAndItsChanges)
     SetStyle(u"2"_s);
     ReprintLotSlip(u"A-003"_s);
 
-    EXPECT_EQ(printer.calls, (QStringList{u"PrintRpt PRDList"_s, u"PrintPRDList 0 1"_s}));
+    EXPECT_EQ(printer.calls, QStringList{u"sheet"_s});
     EXPECT_EQ(printer.slip[u"txtCustName"_s], u"王老板"_s);
     EXPECT_EQ(printer.slip[u"txtPRDNo"_s], u"A-003"_s);
     EXPECT_EQ(printer.slip[u"txtNum"_s], u"120.5件"_s);

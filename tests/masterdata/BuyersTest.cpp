@@ -1,4 +1,4 @@
-#include "core/common/Bills.h"
+#include "core/common/Credit.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 #include "masterdata/frmCustList.h"
@@ -6,6 +6,8 @@
 #include "tests/support/WindowTest.h"
 
 #include <QCheckBox>
+#include <QFontMetricsF>
+#include <QLabel>
 
 using namespace Qt::StringLiterals;
 
@@ -422,15 +424,19 @@ TEST_F(BuyerWindow, ALostConnectionSavesNothingAndLosesNothingTyped)
     EXPECT_EQ(Shown(u"txtCustName"_s), u"张三"_s);
 }
 
-TEST_F(BuyerWindow, AfterAFailedLookUpTheSaveInsertsInsteadOfUpdatingNothing)
+TEST_F(BuyerWindow, AfterAFailedLookUpTheSaveInsertsTheNameAloneInsteadOfUpdatingNothing)
 {
-    AddBuyer(u"张"_s);
+    AddBuyer(u"张"_s, u"1000"_s, u"1"_s);
+    Db().Run(u"UPDATE Cust_List SET CustAddress='东关',CustTel='138'"_s);
     Type(u"张"_s);
     FailStatement(1, Refusal::MissingTable);
     boxes.ExpectContaining(u"doesn't exist"_s);
     Type(u"三"_s);
+    EXPECT_EQ(Shown(u"txtCustAddress"_s), QString()) << "of the buyer before";
     Submit();
-    EXPECT_EQ(Count(u"Cust_List"_s, u"CustName='张三'"_s), 1);
+    EXPECT_EQ(Db().Rows(u"SELECT CustAddress,CustTel,CreditMoney,bolControl FROM Cust_List WHERE "
+                        "CustName='张三'"_s),
+              (std::vector<QStringList>{{QString(), QString(), u"0.000000"_s, u"0"_s}}));
 }
 
 TEST_F(BuyerWindow, ALimitBelowTheDebtIsAcceptedAndTheNextCreditTicketRefused)
@@ -486,4 +492,15 @@ TEST_F(BuyerWindow, TakesTheSlotAndFreesItOnClosing)
     Press(Qt::Key_C, Qt::AltModifier);
     EXPECT_TRUE(Session::WindowSlotFree);
     EXPECT_EQ(Windows().Find(u"frmCustList"_s), nullptr);
+}
+
+TEST_F(BuyerWindow, TheCaptionsAreAsWideAsEachOther)
+{
+    const auto width = [this](const QString& name) {
+        const auto* caption = Find<QLabel>(u"frmCustList"_s, name);
+        return QFontMetricsF(caption->font()).horizontalAdvance(caption->text());
+    };
+    for (const QString& name : {u"lblCustCharge"_s, u"lblCustAddress"_s, u"lblCustTel"_s, u"lblCustFax"_s,
+                                u"lblCustMobile"_s, u"lblCreditMoney"_s})
+        EXPECT_NEAR(width(name), width(u"lblCustName"_s), 1) << name.toStdString();
 }

@@ -167,7 +167,7 @@ TEST_F(PrintQueue, AFolderThatCannotBeMadeIsToldInItsPlace)
     WriteProgramFile(u"单据PDF"_s, QString());
     PrintJob job(u"收银票"_s, 9, false);
     Paint(job);
-    EXPECT_EQ(Refusal(job), u"单据没有打印，也无法建立文件夹："_s + ProgramFolder() + u"/单据PDF"_s);
+    EXPECT_EQ(Refusal(job), u"无法建立文件夹："_s + ProgramFolder() + u"/单据PDF"_s);
 }
 
 TEST_F(PrintQueue, AFullDiskLeavesNoHalfFile)
@@ -183,8 +183,39 @@ TEST_F(PrintQueue, AFullDiskLeavesNoHalfFile)
     const QString refusal = Refusal(job);
     setrlimit(RLIMIT_FSIZE, &before);
     signal(SIGXFSZ, handler);
-    EXPECT_EQ(refusal, u"单据没有打印，也无法写入文件："_s + KeptFile());
+    EXPECT_EQ(refusal, u"无法写入文件："_s + KeptFile());
     EXPECT_EQ(Kept(), QStringList());
+}
+
+TEST_F(PrintQueue, AFolderThatTookNoFileIsGoneAndNotTold)
+{
+    rlimit before{};
+    getrlimit(RLIMIT_FSIZE, &before);
+    const rlimit full{100, before.rlim_max};
+    const auto handler = signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &full);
+    PrintJob job(u"收银票"_s, 9, false);
+    Paint(job);
+    const QString refusal = Refusal(job);
+    setrlimit(RLIMIT_FSIZE, &before);
+    signal(SIGXFSZ, handler);
+    EXPECT_EQ(refusal, u"无法写入文件："_s + KeptFile());
+    Settle();
+    EXPECT_FALSE(QDir(PdfFolder()).exists());
+
+    ExpectFolderBox(); // with the first file
+    Print();
+    EXPECT_EQ(Kept().size(), 1);
+}
+
+TEST_F(PrintQueue, ARefusedDocumentThatNoFolderTakesTellsBothReasons)
+{
+    PrintServer server;
+    server.Run(u"cupsreject"_s, {u"till"_s});
+    WriteProgramFile(u"单据PDF"_s, QString());
+    PrintJob job(u"收银票"_s, 9, false);
+    Paint(job);
+    EXPECT_EQ(Refusal(job), u"打印队列暂不接收单据，无法建立文件夹："_s + ProgramFolder() + u"/单据PDF"_s);
 }
 
 TEST_F(PrintQueue, NothingPaintedIsNothingToHandOver)

@@ -268,6 +268,52 @@ TEST_F(PrintSurface, ACellOfNoWidthPrintsTheWholeText)
     EXPECT_EQ(page.CurrentX(), 1000);
 }
 
+TEST_F(PrintSurface, ATextWiderThanItsFieldIsNarrowedToFitAndTheNextIsNot)
+{
+    StartOnPaper();
+    const auto print = [this](const QString& text, double width) {
+        MoveTo(0, 0);
+        page.PrintFitted(text, width);
+        return Calls().value(0);
+    };
+    EXPECT_EQ(print(u"货货货货"_s, 960), u"text 0 0 \"货货货货\""_s); // 240 each
+    EXPECT_EQ(print(u"货货货货  "_s, 960), u"text 0 0 \"货货货货  \""_s) << "blanks may stand outside";
+    EXPECT_EQ(print(u"货货货货货"_s, 960), u"text 0 0 stretch 80 \"货货货货货\""_s);
+    EXPECT_EQ(print(u"货"_s, 960), u"text 0 0 \"货\""_s);
+    EXPECT_EQ(page.TextWidth(u"货"_s), 240);
+}
+
+TEST_F(PrintSurface, NoTextIsNarrowedBelowHalfNorCut)
+{
+    StartOnPaper();
+    for (const double width : {1200., 1100., 1., 0., -5.}) {
+        MoveTo(0, 0);
+        page.PrintFitted(QString(10, u'货'), width);
+        EXPECT_EQ(Calls(), QStringList{u"text 0 0 stretch 50 \"货货货货货货货货货货\""_s}) << width;
+    }
+    page.PrintFitted(QString(), -5);
+    page.PrintFitted(u" "_s, -5);
+    EXPECT_TRUE(Calls().filter(u"stretch"_s).isEmpty());
+}
+
+TEST_F(PrintSurface, ANarrowedTextIsAsWideInThePreviewAsItsField)
+{
+    StartOnPreview();
+    MoveTo(300, 300);
+    page.PrintFitted(QString(20, u'口'), 3600);
+    const auto hasInk = [this](double from, double to) {
+        for (double x = from; x < to; x += 15) {
+            for (double y = 300; y < 700; y += 15) {
+                if (IsInkAt(x, y))
+                    return true;
+            }
+        }
+        return false;
+    };
+    EXPECT_TRUE(hasInk(3700, 3900));
+    EXPECT_FALSE(hasInk(3930, 6000));
+}
+
 TEST_F(PrintSurface, WithoutSidesTheTextIsPrintedAllTheSame)
 {
     StartOnPaper();

@@ -1,5 +1,7 @@
 #include "tests/settlement/SettlementWindow.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -223,6 +225,24 @@ TEST_P(SettlementFees, ALaterLotDoesNotRerunARateAndTheFeeCanBeTypedOver)
     EXPECT_EQ(Text(u"txtAmount"_s), u"2,000.0"_s);
     EXPECT_EQ(Text(u"txtPer_LManage"_s), IsLayoutA() ? QString() : u"5"_s);
     EXPECT_EQ(Text(u"txtLManagePrice"_s), IsLayoutA() ? QString() : u"33.0"_s);
+}
+
+TEST_P(SettlementFees, AFeeWhoseRoundingCannotBeReadLeavesNoNetOfTheFeesBefore)
+{
+    AddTicket(1, 0, 1000);
+    OpenLayout();
+    FillForSaving();
+    GoTo(u"txtLPackPrice"_s);
+    FailStatement(1, Refusal::MissingTable);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    Type(u"7"_s);
+    EXPECT_EQ(Text(u"txtLTotalPrice"_s), u"¥7.0"_s);
+    EXPECT_EQ(Text(u"txtGTotalPrice"_s), QString());
+    boxes.Expect(u"实得金额为负数，不能进行结算。"_s);
+    Click(Find<QLabel>(Layout(), u"cmdSubmit"_s));
+    EXPECT_EQ(Count(u"CheckOut"_s), 0);
+    Press(Qt::Key_Return); // shown as 7.0: worked out again
+    EXPECT_EQ(Text(u"txtGTotalPrice"_s), u"¥993.0"_s);
 }
 
 // Keys

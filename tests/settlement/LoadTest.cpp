@@ -4,8 +4,6 @@
 #include <QFrame>
 #include <QLabel>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -13,31 +11,6 @@ namespace {
 class SettlementLoad : public EitherLayout {
 protected:
     QWidget* Window() { return Windows().Find(Layout())->Widget(); }
-};
-
-class FeeRenaming : public SettlementWindow {};
-
-/// Stands in for the window that renames a fee: tells what it was opened with, and closes.
-class RenamingWindow : public QWidget, public Form {
-public:
-    explicit RenamingWindow(QWidget* owner) : QWidget(owner, Qt::Dialog) {}
-    QWidget* Widget() override { return this; }
-    void TakeName(const QString& name) override { s_told << Session::FeeLabelKey << name; }
-
-    static inline QStringList s_told; ///< key and caption of the fee, then how it was shown
-
-protected:
-    void showEvent(QShowEvent* /*event*/) override
-    {
-        s_told << (windowModality() == Qt::ApplicationModal ? u"modal"_s : u"modeless"_s);
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                Windows().Unloaded(this);
-                deleteLater();
-            },
-            Qt::QueuedConnection);
-    }
 };
 
 } // namespace
@@ -142,26 +115,6 @@ TEST_P(SettlementLoad, ALoadThatFailsLeavesNoWindowAndTheSlotFree)
     Settle();
     EXPECT_EQ(Windows().Find(QString::fromLatin1(GetParam())), nullptr);
     EXPECT_TRUE(Session::WindowSlotFree);
-}
-
-// Once for both layouts: windows stay registered, so the case without the window comes first.
-TEST_F(FeeRenaming, ADoubleClickOnAFeeCaptionOpensItsRenamingModallyOrSaysThatThereIsNone)
-{
-    for (const QString& layout : {u"frmCheckOut"_s, u"frmCheckOutA"_s}) {
-        OpenLayout(layout);
-        boxes.Expect(u"此功能在本版本中尚未提供。"_s);
-        DoubleClick(Find<QLabel>(layout, u"lblFee_9"_s));
-        EXPECT_EQ(Session::FeeLabelKey, u"L9"_s);
-    }
-    Windows().Register(u"frmSetFeeLabel"_s, [](QWidget* owner) { return new RenamingWindow(owner); });
-    for (const QString& layout : {u"frmCheckOut"_s, u"frmCheckOutA"_s}) {
-        OpenLayout(layout);
-        DoubleClick(Find<QLabel>(layout, u"lblFee_5"_s));
-        DoubleClick(Find<QLabel>(layout, u"lblFee_4"_s));
-        EXPECT_EQ(std::exchange(RenamingWindow::s_told, {}),
-                  (QStringList{u"L5"_s, u"卫生费"_s, u"modal"_s, u"L4"_s, u"预支款"_s, u"modal"_s}));
-        EXPECT_EQ(TakeStatements(), QStringList());
-    }
 }
 
 // The window is the printed sheet as well.

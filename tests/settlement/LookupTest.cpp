@@ -1,5 +1,7 @@
 #include "tests/settlement/SettlementWindow.h"
 
+#include <QLabel>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -109,17 +111,6 @@ TEST_P(LotLookup, TheKilogramsPerPieceAreRoundedHalvesToEven)
     Db().Run(u"UPDATE PRD_List SET MPercent=3.5"_s);
     EnterLot();
     EXPECT_EQ(Text(u"txtSuttle"_s), u"40"_s);
-}
-
-TEST_P(LotLookup, KilogramsPerPieceBeyondSixteenBitsEndTheLookupWithTheWord)
-{
-    Db().Run(u"UPDATE PRD_List SET MPercent=40000"_s);
-    OpenLayout();
-    boxes.Expect(u"溢出"_s);
-    EnterLot();
-    EXPECT_EQ(Text(u"txtPRDNo"_s), u"A-001"_s);
-    EXPECT_EQ(Text(u"txtGTotalPrice"_s), QString());
-    EXPECT_EQ(Count(u"ErrInfo"_s), 0);
 }
 
 TEST_P(LotLookup, TheShortcutNumberIsReplacedByTheMainNumber)
@@ -234,24 +225,133 @@ TEST_P(LotLookup, OtherOddNumbersAreSimplyNotFound)
     Press(Qt::Key_Return);
 }
 
-TEST_P(LotLookup, AStatementThatFailsInTheLookupIsShownOnceAndLogsNothing)
+// A lookup that fails half way leaves no lot in hand
+
+namespace {
+
+/// Lot A-001 is on the sheet, walked through and ready to save, when lot B-001 cannot be looked up.
+class FailedLookup : public EitherLayout {
+protected:
+    void SetUp() override
+    {
+        EitherLayout::SetUp();
+        AddTicket(40, 0, 1000);
+        AddAdvance(100);
+        Db().Run(u"INSERT INTO PRD_List (ID,PRDNo,PRDName,CustName,Store,Num) VALUES "
+                 "('20260302001','B-001','雪梨','李四','二号库',50)"_s);
+        Db().Run(u"INSERT INTO Sal_List (SalNo,ID,PRDNo,Num,Amount) VALUES "
+                 "('01260303001','20260302001','B-001',5,300)"_s);
+    }
+
+    void ExpectNothingInHand()
+    {
+        for (const QLineEdit* box : Windows().Find(Layout())->Widget()->findChildren<QLineEdit*>()) {
+            const QString name = box->objectName();
+            if (box->isReadOnly() && name != u"txtCheckDate" && name != u"txtCheckNo") {
+                EXPECT_EQ(box->text(), QString()) << name.toStdString();
+            }
+        }
+        EXPECT_EQ(LabelText(u"lblPriceUCase"_s), QString());
+        EXPECT_EQ(Text(u"txtPRDNo"_s), u"B-001"_s) << "to be looked up again";
+    }
+
+    /// By the last field, by the button, and with a fee that leaves a net of its own.
+    void ExpectNothingIsSaved()
+    {
+        const QString nothingLeft = u"实得金额为负数，不能进行结算。"_s;
+        WalkToNames();
+        Press(Qt::Key_Return);
+        TakeStatements();
+        boxes.Expect(nothingLeft);
+        Press(Qt::Key_Return);
+        boxes.Expect(nothingLeft);
+        Click(Find<QLabel>(Layout(), u"cmdSubmit"_s));
+        EXPECT_EQ(TakeStatements(), QStringList());
+        TypeInto(u"txtLOtherPrice"_s, u"20"_s);
+        Press(Qt::Key_Home);
+        Type(u"-"_s);
+        EXPECT_EQ(Text(u"txtGTotalPrice"_s), u"¥20.0"_s);
+        boxes.Expect(u"类型不匹配"_s);
+        Click(Find<QLabel>(Layout(), u"cmdSubmit"_s));
+        EXPECT_EQ(Count(u"CheckOut"_s), 0);
+        EXPECT_EQ(Count(u"PRD_List"_s, u"bolCheckOut='1'"_s), 0);
+    }
+
+    void StartAfresh()
+    {
+        if (Windows().Find(QString::fromLatin1(GetParam())))
+            Press(Qt::Key_C, Qt::AltModifier);
+        OpenLayout();
+        FillForSaving();
+        ASSERT_EQ(Text(u"txtGTotalPrice"_s), u"¥900.0"_s);
+        GoTo(u"txtPRDNo"_s);
+        Type(u"B-001"_s);
+        TakeStatements();
+    }
+};
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(, FailedLookup, BothLayouts, LayoutName);
+
+TEST_P(FailedLookup, AtEachStatementLeavesNothingToSaveAndIsShownOnceWithoutALogRow)
 {
-    AddTicket(40, 0, 1000);
-    OpenLayout();
     const int statements = IsLayoutA() ? 9 : 12;
     for (int n = 1; n <= statements; ++n) {
-        // On the clearing layout another text first, so that the advances change in each round.
-        Box(u"txtPRDNo"_s)->clear();
-        Box(u"txtLExpendPrice"_s)->clear();
-        GoTo(u"txtPRDNo"_s);
-        Type(u"A-001"_s);
+        SCOPED_TRACE(n);
+        StartAfresh();
         FailStatement(n, Refusal::MissingTable);
         boxes.ExpectContaining(u"doesn't exist"_s);
         Press(Qt::Key_Return);
-        EnterLot();
-        EXPECT_EQ(Text(u"txtGTotalPrice"_s), u"¥1,000.0"_s) << n;
+        EXPECT_EQ(TakeStatements().size(), n);
+        EXPECT_EQ(Count(u"ErrInfo"_s), 0);
+        ExpectNothingInHand();
+        ExpectNothingIsSaved();
+        Db().Run(u"DELETE FROM ErrInfo"_s);
     }
+}
+
+TEST_P(FailedLookup, ByKilogramsPerPieceBeyondSixteenBitsLeavesNothingToSave)
+{
+    Db().Run(u"UPDATE PRD_List SET MPercent=32767.5 WHERE PRDNo='B-001'"_s);
+    StartAfresh();
+    boxes.Expect(u"溢出"_s);
+    Press(Qt::Key_Return);
     EXPECT_EQ(Count(u"ErrInfo"_s), 0);
+    ExpectNothingInHand();
+    ExpectNothingIsSaved();
+}
+
+TEST_P(FailedLookup, OnceMoreSucceedsAndSavesThatLotsFiguresAlone)
+{
+    StartAfresh();
+    FailStatement(5, Refusal::MissingTable);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    Press(Qt::Key_Return);
+    EnterLot(u"B-001"_s);
+    EXPECT_EQ(Text(u"txtGTotalPrice"_s), u"¥300.0"_s);
+    WalkToNames();
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(
+        Db().Rows(u"SELECT ID,PRDNo,CustName,Store,Num,Amount,LExpendPrice,GTotalPrice FROM CheckOut"_s),
+        (std::vector<QStringList>{{u"20260302001"_s, u"B-001"_s, u"李四"_s, u"二号库"_s, u"5.000000"_s,
+                                   u"300.000000"_s, u"0.000000"_s, u"300.000000"_s}}));
+    EXPECT_EQ(Value(u"SELECT bolCheckOut FROM PRD_List WHERE PRDNo='A-001'"_s), u"0"_s);
+}
+
+TEST_P(FailedLookup, OfAnUnknownNumberKeepsTheLotOnTheSheetWithItsOwnFigures)
+{
+    StartAfresh();
+    const QString owner = IsLayoutA() ? QString() : u"王建国"_s;
+    const QString net = IsLayoutA() ? QString() : u"¥900.0"_s;
+    Type(u"9"_s); // B-0019
+    boxes.Expect(LotUnknown);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(Text(u"txtPRDNo"_s), QString());
+    EXPECT_EQ(Text(u"txtCustName"_s), owner);
+    EXPECT_EQ(Text(u"txtGTotalPrice"_s), net);
+    EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
 }
 
 // Where the layouts differ
@@ -268,6 +368,19 @@ TEST_F(StockLayout, ShowsHowTheLotsPiecesCameAndWent)
     for (int i = 0; i < 7; ++i)
         shown << Text(u"txtSNum_%1"_s.arg(i));
     EXPECT_EQ(shown, (QStringList{u"100"_s, u"22.5"_s, u"122.5"_s, u"7"_s, u"3"_s, u"40"_s, u"72.5"_s}));
+}
+
+TEST_F(StockLayout, ALotSoldOutInTenthsHasNothingLeft)
+{
+    Db().Run(u"UPDATE PRD_List SET Num=50.3 WHERE ID='20260301001'"_s);
+    Db().Run(u"INSERT INTO EStore_List (ID,EStoreType,Num) VALUES ('20260301001','2',0.1)"_s);
+    AddTicket(50.2, 0, 1000);
+    OpenLayout(u"frmCheckOut"_s);
+    EnterLot();
+    EXPECT_EQ(Text(u"txtSNum_6"_s), u"0"_s);
+    Db().Run(u"UPDATE PRD_List SET Num=0.1; UPDATE EStore_List SET EStoreType='0',Num=0.2"_s);
+    EnterLot();
+    EXPECT_EQ(Text(u"txtSNum_2"_s), u"0.3"_s);
 }
 
 TEST_F(StockLayout, KeepsTheFiguresOfTheLastLotUntilTheNextReplacesThem)

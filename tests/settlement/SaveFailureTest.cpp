@@ -234,7 +234,8 @@ TEST_P(SettlementFailure, ATicketSoldAfterTheLookupIsClosedButNotCounted)
     EXPECT_EQ(Count(u"CustDebit"_s, u"bolCheckOut='1'"_s), 2);
 }
 
-// A number typed over without leaving it: the layout that keeps its figures lets it through
+// A number typed over and saved by a click, which leaves no field: the layout that keeps its figures lets it
+// through
 
 namespace {
 class NumberTypedOver : public SettlementWindow {};

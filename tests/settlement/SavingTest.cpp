@@ -19,18 +19,17 @@ public:
     }
     ~NotingPrinter() override { SetDocumentPrinter(nullptr); }
 
-    void PrintCheckOut(bool prePrinted, bool framed) override { Note(u"CheckOut"_s, prePrinted, framed); }
-    void PrintCheckOutA(bool prePrinted, bool framed) override { Note(u"CheckOutA"_s, prePrinted, framed); }
+    void Print(Document document, PrintMode mode, const QWidget& form) override
+    {
+        EXPECT_EQ(form.objectName(), document == Document::CheckOut ? u"frmCheckOut"_s : u"frmCheckOutA"_s);
+        notes << (document == Document::CheckOut ? u"CheckOut"_s : u"CheckOutA"_s) +
+                     (mode == PrintMode::Stationery ? u" preprinted"_s : u" framed"_s);
+        notes << m_standing();
+    }
 
     QStringList notes;
 
 private:
-    void Note(const QString& document, bool prePrinted, bool framed)
-    {
-        notes << document + (prePrinted ? u" preprinted"_s : QString()) + (framed ? u" framed"_s : QString());
-        notes << m_standing();
-    }
-
     std::function<QString()> m_standing;
 };
 
@@ -174,7 +173,7 @@ TEST_P(SettlementSave, ClosesTheLotItsTicketsAndItsAdvancesAndNothingElse)
 TEST_P(SettlementSave, LeavesTheWindowReadyForTheNextLotWithThePayer)
 {
     PrepareFullSettlement();
-    Box(u"txtCustSign"_s)->setText(u"王建国"_s);
+    TypeInto(u"txtCustSign"_s, u"王建国"_s);
     Save();
     for (const QLineEdit* box : Windows().Find(Layout())->Widget()->findChildren<QLineEdit*>()) {
         const QStringList kept{u"txtCheckDate"_s, u"txtPayUser"_s, u"txtCheckNo"_s};

@@ -49,10 +49,3 @@ TEST(SettlementMath, FeesByPercentByTonneAndByPiece)
     EXPECT_EQ(FormatAmount(FeeByPercent(2.5, 10), u"1"_s), u"0.3"_s);
     EXPECT_EQ(FormatAmount(FeeByWeight(1.15, 3000), u"1"_s), u"3.5"_s);
 }
-
-TEST(SettlementMath, WhatIsLeftIsWhatArrivedLessWhatWent)
-{
-    const StockSummary stock{.delivered = 100, .added = 20, .movedOut = 5, .lost = 3, .sold = 70};
-    EXPECT_EQ(stock.Arrived(), 120);
-    EXPECT_EQ(stock.Left(), 42);
-}

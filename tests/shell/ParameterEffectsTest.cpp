@@ -1,7 +1,7 @@
 #include "core/common/Lookups.h"
 #include "core/session/Session.h"
+#include "goods/LotSlip.h"
 #include "printing/Documents.h"
-#include "printing/LotSlip.h"
 #include "tests/shell/ParameterWindow.h"
 
 #include <QLabel>
@@ -14,17 +14,28 @@ namespace {
 /// Notes which document is asked for, and how.
 class Recorder : public DocumentPrinter {
 public:
-    void PrintPRDList(bool prePrinted, bool framed) override { Note(u"PRDList"_s, prePrinted, framed); }
-    void PrintSaleList(bool prePrinted, bool framed) override { Note(u"SaleList"_s, prePrinted, framed); }
-    void PrintCheckOut(bool prePrinted, bool framed) override { Note(u"CheckOut"_s, prePrinted, framed); }
-    void PrintCheckOutA(bool prePrinted, bool framed) override { Note(u"CheckOutA"_s, prePrinted, framed); }
+    void Print(Document document, PrintMode mode, const QWidget& /*form*/) override
+    {
+        calls << NameOf(document) + (mode == PrintMode::Stationery ? u" stationery"_s : u" sheet"_s);
+    }
 
     QStringList calls;
 
 private:
-    void Note(const QString& document, bool prePrinted, bool framed)
+    static QString NameOf(Document document)
     {
-        calls << u"%1 %2%3"_s.arg(document).arg(prePrinted).arg(framed);
+        switch (document) {
+        case Document::PRDList:
+            return u"PRDList"_s;
+        case Document::SaleList:
+            return u"SaleList"_s;
+        case Document::CheckOut:
+            return u"CheckOut"_s;
+        case Document::CheckOutA:
+            return u"CheckOutA"_s;
+        default:
+            return u"another"_s;
+        }
     }
 };
 
@@ -307,11 +318,11 @@ TEST_F(ParameterEffects, EachDocumentPrintsInItsOwnStyle)
     };
     EXPECT_EQ(printAll(), QStringList());
     styles(1, 2, 1);
-    EXPECT_EQ(printAll(),
-              (QStringList{u"PRDList 10"_s, u"SaleList 01"_s, u"CheckOut 10"_s, u"CheckOutA 10"_s}));
+    EXPECT_EQ(printAll(), (QStringList{u"PRDList stationery"_s, u"SaleList sheet"_s, u"CheckOut stationery"_s,
+                                       u"CheckOutA stationery"_s}));
     styles(2, 1, 2);
-    EXPECT_EQ(printAll(),
-              (QStringList{u"PRDList 01"_s, u"SaleList 10"_s, u"CheckOut 01"_s, u"CheckOutA 01"_s}));
+    EXPECT_EQ(printAll(), (QStringList{u"PRDList sheet"_s, u"SaleList stationery"_s, u"CheckOut sheet"_s,
+                                       u"CheckOutA sheet"_s}));
     styles(0, 0, 0);
     EXPECT_EQ(printAll(), QStringList());
     EXPECT_EQ(GetPrintStyle(u"P06"_s), u"2"_s) << "the others keep theirs";

@@ -317,7 +317,7 @@ TEST_F(UserWindow, EachStatementOfTheSaveThatFailsLeavesWhatRanBeforeIt)
     const std::vector<Case> cases{
         {1, Refusal::Signalled, u"演练故障"_s, 1, 1, u"小陈"_s},
         {1, Refusal::MissingTable, u"doesn't exist"_s, 1, 0, u"小陈"_s},
-        {2, Refusal::MissingTable, u"doesn't exist"_s, 2, 0, u"小陈"_s}, // the look-up of the emptied number
+        {2, Refusal::MissingTable, u"doesn't exist"_s, 2, 0, QString()}, // the look-up of the emptied number
         {3, Refusal::MissingTable, u"doesn't exist"_s, 2, 0, QString()}, // the list behind
     };
     OpenListBehind();
@@ -361,14 +361,22 @@ TEST_F(UserWindow, ALostConnectionSavesNothingAndLosesNothingTyped)
     EXPECT_EQ(ShownUser().mid(0, 3), (QStringList{u"05"_s, u"小陈"_s, u"5"_s}));
 }
 
-TEST_F(UserWindow, AfterAFailedLookUpTheSaveInsertsInsteadOfUpdatingNothing)
+TEST_F(UserWindow, AfterAFailedLookUpNothingOfTheUserBeforeGoesInUnderTheNewNumber)
 {
     Type(u"01"_s);
     FailStatement(1, Refusal::MissingTable);
     boxes.ExpectContaining(u"doesn't exist"_s);
     Type(u"8"_s);
+    boxes.Expect(u"请填写用户姓名！"_s);
     Submit();
-    EXPECT_EQ(Value(u"SELECT UserName FROM User_List WHERE UserID='018'"_s), u"管理员"_s);
+    EXPECT_EQ(ShownUser().mid(0, 3), (QStringList{u"018"_s, QString(), QString()}));
+    EXPECT_EQ(Count(u"User_List"_s), 1);
+
+    // A new user, not an update of a missing one.
+    Type(u"小陈"_s);
+    Replace(u"txtUserPWD"_s, u"5"_s);
+    Submit();
+    EXPECT_EQ(Value(u"SELECT UserName FROM User_List WHERE UserID='018'"_s), u"小陈"_s);
 }
 
 TEST_F(UserWindow, AQuoteInTheNumberBreaksEveryStatementThatMentionsIt)

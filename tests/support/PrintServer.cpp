@@ -119,6 +119,15 @@ QString Read(const QString& path)
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
+/// The socket's file stands a moment before the server listens.
+bool IsListening(const QString& socket)
+{
+    http_t* connection = httpConnect2(socket.toUtf8().constData(), 0, nullptr, AF_UNSPEC,
+                                      HTTP_ENCRYPTION_IF_REQUESTED, 1, 1000, nullptr);
+    httpClose(connection);
+    return connection != nullptr;
+}
+
 void UseServer(const QString& address)
 {
     qputenv("CUPS_SERVER", address.toUtf8());
@@ -137,7 +146,7 @@ PrintServer::PrintServer() : m_folder(QDir::tempPath() + u"/orvane-print-XXXXXX"
                    {u"-f"_s, u"-c"_s, Path(u"conf/cupsd.conf"_s), u"-s"_s, Path(u"conf/cups-files.conf"_s)});
     UseServer(Path(u"cups.sock"_s));
     QDeadlineTimer limit(StartLimit);
-    while (!QFile::exists(Path(u"cups.sock"_s))) {
+    while (!IsListening(Path(u"cups.sock"_s))) {
         if (m_server.waitForFinished(10) || limit.hasExpired())
             GiveUp(u"cupsd does not start"_s);
     }

@@ -12,9 +12,11 @@ public:
     std::function<QString()> look;
     QStringList prints;
 
-    void PrintSaleList(bool prePrinted, bool framed) override
+    void Print(Document document, PrintMode mode, const QWidget& form) override
     {
-        prints << (prePrinted ? u"pre-printed "_s : QString()) + (framed ? u"framed "_s : QString()) + look();
+        EXPECT_EQ(document, Document::SaleList);
+        EXPECT_EQ(form.objectName(), u"frmSale"_s);
+        prints << (mode == PrintMode::Stationery ? u"pre-printed "_s : u"framed "_s) + look();
     }
 };
 

@@ -52,21 +52,6 @@ TEST(TicketTotals, BeyondADoubleIsAnOverflow)
     EXPECT_THROW(ComputeTicketTotals(1e300, 0, 1e300, 0, 0, false), OverflowError);
 }
 
-TEST(StockLeft, AddsDeliveryAndAdditionsAndTakesTheRestAway)
-{
-    EXPECT_EQ(StockLeft({.delivered = 100, .added = 10, .movedOut = 5, .lost = 5, .sold = 90}), 10);
-}
-
-TEST(StockLeft, CarriesNoBinaryNoise)
-{
-    EXPECT_EQ(StockLeft({.delivered = 50.3, .added = 0, .movedOut = 0, .lost = 0, .sold = 50.2}), 0.1);
-}
-
-TEST(StockLeft, FallsBelowZeroAfterAnOversale)
-{
-    EXPECT_EQ(StockLeft({.delivered = 5, .added = 0, .movedOut = 0, .lost = 0, .sold = 8}), -3);
-}
-
 namespace {
 
 struct CutOffRow {

@@ -1,3 +1,4 @@
+#include "core/base/Twips.h"
 #include "tests/till/TillTest.h"
 
 #include <QFrame>
@@ -7,7 +8,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 // Twips of an A5 sheet lying across, and what a printer leaves of it.
-constexpr int TwipsPerPixel = 15;
 constexpr int PaperRight = 11300;
 constexpr int PaperBottom = 8000;
 constexpr double PaperStretch = 1.33;

@@ -7,9 +7,9 @@
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
+#include "goods/frmPrintEStore.h"
 #include "printing/Documents.h"
 #include "printing/PrintQueue.h"
-#include "printing/frmPrintEStore.h"
 #include "settlement/frmDebit.h"
 #include "shell/MenuTable.h"
 #include "tests/support/Keys.h"
@@ -590,8 +590,8 @@ void Papers(Tour& tour)
                                  .num = 2.5,
                                  .stock = 47.5,
                                  .memo = u"压坏，已当面点清"_s});
-    Documents().PrintRpt(u"EStore"_s);
-    Documents().PrintEStore(false, true);
+    PrintDocument(Document::EStore, u"2"_s, frmPrintEStore::Load());
+    frmPrintEStore::Unload();
 
     Windows().Register(u"frmDebit"_s, [](QWidget* owner) { return new frmDebit(owner); });
     Windows().Show(u"frmDebit"_s, Windows().Find(u"frmMain"_s)->Widget());
@@ -606,8 +606,8 @@ void Papers(Tour& tour)
     for (const auto& [name, text] : texts)
         debit->findChild<QLineEdit*>(name)->setText(text);
     tour.Picture(u"frmDebit"_s);
-    Documents().PrintDebit(false, true);
-    Documents().PrintDebit(false, false); // to the preview
+    for (const PrintMode mode : {PrintMode::Sheet, PrintMode::Preview})
+        Documents().Print(Document::Debit, mode, *debit);
     debit->close();
     Settle();
     tour.Picture(u"frmPrint"_s);

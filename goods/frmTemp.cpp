@@ -1,4 +1,4 @@
-#include "printing/frmTemp.h"
+#include "goods/frmTemp.h"
 
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
@@ -6,7 +6,7 @@
 #include "core/common/Lookups.h"
 #include "core/forms/Fields.h"
 #include "core/session/Session.h"
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 #include "ui_frmTemp.h"
 
 using namespace Qt::StringLiterals;

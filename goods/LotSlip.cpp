@@ -1,11 +1,12 @@
-#include "printing/LotSlip.h"
+#include "goods/LotSlip.h"
 
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"
 #include "core/common/Lookups.h"
+#include "core/common/LotStock.h"
 #include "core/gateway/DataGateway.h"
+#include "goods/frmTemp.h"
 #include "printing/Documents.h"
-#include "printing/frmTemp.h"
 
 #include <QScopeGuard>
 
@@ -14,26 +15,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString LotSlipPaper = u"P01"_s;
-const QString LotSlipKey = u"PRDList"_s;
-
-double StockChange(const QString& lotId, const QString& type)
-{
-    return SumField(u"EStore_List"_s, u"Num"_s, u"ID='"_s + lotId + u"' And EStoreType='"_s + type + u"'"_s);
-}
 
 } // namespace
 
-double LotSlipStock(const LotSlip& slip)
-{
-    const double added = StockChange(slip.lotId, u"0"_s);
-    const double movedOut = StockChange(slip.lotId, u"1"_s);
-    const double lost = StockChange(slip.lotId, u"2"_s);
-    return Settled(slip.num + added - movedOut - lost);
-}
-
 void FillLotSlip(const LotSlip& slip)
 {
-    const double stock = LotSlipStock(slip);
+    // What came and stayed; the slip goes to the owner, and sales are not taken off on it.
+    const double stock = ReadStockChanges(slip.lotId, slip.num).StayedForSale();
     frmTemp::Load().Fill(slip, stock);
 }
 
@@ -48,10 +36,7 @@ void PrintLotSlip(const LotSlip& slip, const QString& printStyle)
         return;
     const auto unload = qScopeGuard([] { frmTemp::Unload(); });
     FillLotSlip(slip);
-    PrintByStyle(printStyle, [](bool prePrinted, bool framed) {
-        Documents().PrintRpt(LotSlipKey);
-        Documents().PrintPRDList(prePrinted, framed);
-    });
+    PrintDocument(Document::PRDList, printStyle, frmTemp::Load());
 }
 
 void ReprintLotSlip(const QString& prdNo)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "printing/TransferForm.h"
+#include "goods/TransferForm.h"
 
 #include <QWidget>
 

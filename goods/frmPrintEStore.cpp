@@ -1,4 +1,4 @@
-#include "printing/frmPrintEStore.h"
+#include "goods/frmPrintEStore.h"
 
 #include "core/base/Clock.h"
 #include "core/base/Numbers.h"

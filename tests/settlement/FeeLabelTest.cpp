@@ -1,6 +1,8 @@
-#include "app/StartProgram.h"
 #include "core/forms/Fields.h"
 #include "core/session/Session.h"
+#include "settlement/frmCheckOut.h"
+#include "settlement/frmCheckOutA.h"
+#include "settlement/frmSetFeeLabel.h"
 #include "tests/support/WindowTest.h"
 
 #include <QApplication>
@@ -16,7 +18,9 @@ protected:
     void SetUp() override
     {
         WindowTest::SetUp();
-        RegisterWindows();
+        Windows().Register(u"frmCheckOut"_s, [](QWidget* owner) { return new frmCheckOut(owner); });
+        Windows().Register(u"frmCheckOutA"_s, [](QWidget* owner) { return new frmCheckOutA(owner); });
+        Windows().Register(u"frmSetFeeLabel"_s, [](QWidget* owner) { return new frmSetFeeLabel(owner); });
         Db().Run(u"INSERT INTO PRD_List (ID,PRDNo,PRDName,CustName,Num) VALUES "
                  "('20260301001','A-001','红富士','王建国',100)"_s);
     }
@@ -162,6 +166,7 @@ TEST_F(FeeLabel, ADoubleClickOnTheCaptionOpensItWithTheNameSelected)
         Open(layout);
         InModal([&] { DoubleClick(Find<QLabel>(layout, u"lblFee_5"_s)); },
                 [this] {
+                    EXPECT_EQ(Session::FeeLabelKey, u"L5"_s);
                     QWidget* window = Windows().Find(u"frmSetFeeLabel"_s)->Widget();
                     EXPECT_EQ(window->windowTitle(), u"收费名称修改"_s);
                     EXPECT_TRUE(window->isModal());

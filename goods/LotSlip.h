@@ -20,11 +20,8 @@ struct LotSlip {
     QString memo;
 };
 
-/// What came of a lot by deliveries and stock changes, sales not taken off: Num + added - moved out -
-/// lost. Three sums. @throws DatabaseError
-double LotSlipStock(const LotSlip& slip);
-
-/// Loads frmTemp and fills it. @throws DatabaseError
+/// Loads frmTemp and fills it, with the stock that came of deliveries and stock changes. @throws
+/// DatabaseError
 void FillLotSlip(const LotSlip& slip);
 
 /// True for a DFN_Paper.PrintStyle above 0, which is when a slip is made at all.

@@ -1,4 +1,4 @@
-#include "shell/frmSetFeeLabel.h"
+#include "settlement/frmSetFeeLabel.h"
 
 #include "core/base/Numbers.h"
 #include "core/forms/WindowRegistry.h"
