@@ -2,8 +2,6 @@
 #include "printing/Documents.h"
 #include "tests/settlement/SettlementWindow.h"
 
-#include <QLabel>
-
 using namespace Qt::StringLiterals;
 
 namespace {
