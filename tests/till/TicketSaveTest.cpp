@@ -261,13 +261,13 @@ TEST_F(TicketSave, ItsKeyFirstLeavesTheFieldAndTheNumberTypedOverIsLookedUp)
     Type(u"B-001"_s);
     boxes.Expect(u"押包装必须填写！"_s); // of B-001, which is now the lot
     Press(Qt::Key_S, Qt::AltModifier);
-    EXPECT_EQ(Text(u"txtPRDName"_s), u"鸭梨"_s);
+    EXPECT_EQ(Text(u"txtPRDName"_s), u"蜜橘"_s);
     EXPECT_EQ(FocusName(), u"txtPerForegift"_s);
     ExpectNothingWritten();
     Type(u"5"_s);
     Press(Qt::Key_S, Qt::AltModifier);
     EXPECT_EQ(TicketRow(FirstNo, u"PRDNo,PRDName,Num,ForegiftAmount"_s),
-              (QStringList{u"B-001"_s, u"鸭梨"_s, u"10"_s, u"50"_s}));
+              (QStringList{u"B-001"_s, u"蜜橘"_s, u"10"_s, u"50"_s}));
     EXPECT_EQ(NumSal(u"A-001"_s), u"100"_s);
     EXPECT_EQ(NumSal(u"B-001"_s), u"190"_s);
 }
