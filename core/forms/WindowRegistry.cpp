@@ -79,6 +79,13 @@ void WindowRegistry::ShowModal(const QString& name, QWidget* owner)
         below->activateWindow();
 }
 
+void WindowRegistry::CloseThenShow(Form* finished, const QString& name, QWidget* owner)
+{
+    if (!finished->Widget()->close())
+        return;
+    AfterHandler([this, name, below = QPointer<QWidget>(owner)] { Show(name, below); });
+}
+
 void WindowRegistry::Unloaded(Form* form)
 {
     m_loaded.removeIf([form](const auto& entry) { return entry.value() == form; });

@@ -35,6 +35,10 @@ public:
     /// Load, show it over everything else, and return when it is closed. The owner gets the keyboard back.
     void ShowModal(const QString& name, QWidget* owner);
 
+    /// Closes a window that has done its work; when the handler under way is over, shows the other one. Not
+    /// shown when the first refused to close.
+    void CloseThenShow(Form* finished, const QString& name, QWidget* owner);
+
     /// A window tells that it has closed.
     void Unloaded(Form* form);
 
