@@ -34,9 +34,9 @@ void ShowFailure(const std::exception_ptr& failure)
     try {
         std::rethrow_exception(failure);
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
     } catch (const std::exception& error) {
-        ShowErrorMessage(u"程序错误：%1"_s.arg(QString::fromUtf8(error.what())));
+        ShowInfo(u"程序错误：%1"_s.arg(QString::fromUtf8(error.what())));
     }
 }
 

@@ -77,7 +77,7 @@ void FormWindow::Guarded(const QString& label, const std::function<void()>& rout
     try {
         routine();
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
         LogError(Session::CurrentUserName, error.Description(), label);
     }
 }
@@ -88,7 +88,7 @@ void FormWindow::GuardedUnlogged(const std::function<void()>& routine)
     try {
         routine();
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
     }
 }
 

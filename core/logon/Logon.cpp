@@ -48,7 +48,7 @@ bool TryLogon(const QString& name, const QString& password, UnknownName unknownN
     try {
         return CheckUser(name, password, unknownName);
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
         return false;
     }
 }
@@ -59,7 +59,7 @@ void EnterMainWindow()
         if (Form* frame = Windows().Load(u"frmMain"_s, nullptr))
             Windows().Show(u"frmSpash"_s, frame->Widget());
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
         if (Form* splash = Windows().Find(u"frmSpash"_s))
             splash->Widget()->close();
     }
