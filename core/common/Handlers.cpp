@@ -2,6 +2,7 @@
 
 #include "core/base/RunTimeError.h"
 #include "core/common/Messages.h"
+#include "core/common/Waiting.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
@@ -81,7 +82,8 @@ void AfterHandler(std::function<void()> action)
         actionsAfterwards.push_back(std::move(action));
     else
         QMetaObject::invokeMethod(
-            QCoreApplication::instance(), [action = std::move(action)] { RunHandler(action); },
+            QCoreApplication::instance(),
+            [action = std::move(action)] { AfterWait([action] { RunHandler(action); }); },
             Qt::QueuedConnection);
 }
 

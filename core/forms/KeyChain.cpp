@@ -4,6 +4,7 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
+#include "core/common/Waiting.h"
 #include "core/forms/Fields.h"
 
 #include <QAbstractButton>
@@ -316,12 +317,13 @@ void KeyChain::FocusFirst()
 void KeyChain::ReturnTo(QWidget* control)
 {
     m_returningTo = control;
+    const auto giveBack = [chain = QPointer<KeyChain>(this)] {
+        if (!chain)
+            return;
+        if (chain->m_returningTo)
+            FocusAndSelect(chain->m_returningTo);
+        chain->m_returningTo = nullptr;
+    };
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_returningTo)
-                FocusAndSelect(m_returningTo);
-            m_returningTo = nullptr;
-        },
-        Qt::QueuedConnection);
+        this, [giveBack] { AfterWait(giveBack); }, Qt::QueuedConnection);
 }
