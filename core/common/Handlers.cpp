@@ -21,13 +21,16 @@ std::vector<std::function<void()>> actionsAfterwards;
 
 int underWay = 0; // handlers on the stack, those that wait for a nested loop included
 std::vector<QPointer<QObject>> closedWindows;
+std::vector<std::function<void()>> actionsWhenIdle;
 
-void DestroyClosedWindows()
+void Idle()
 {
     for (const QPointer<QObject>& window : std::exchange(closedWindows, {})) {
         if (window)
             window->deleteLater();
     }
+    for (auto& action : std::exchange(actionsWhenIdle, {}))
+        WhenIdle(std::move(action));
 }
 
 void ShowFailure(const std::exception_ptr& failure)
@@ -65,7 +68,25 @@ void RunHandler(const std::function<void()>& handler)
             RunHandler(action);
     }
     if (--underWay == 0)
-        DestroyClosedWindows();
+        Idle();
+}
+
+void WhenIdle(std::function<void()> action)
+{
+    if (underWay > 0) {
+        actionsWhenIdle.push_back(std::move(action));
+        return;
+    }
+    // By the time the event comes, another handler's box may stand open.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [action = std::move(action)] {
+            if (underWay > 0)
+                actionsWhenIdle.push_back(action);
+            else
+                action();
+        },
+        Qt::QueuedConnection);
 }
 
 void DestroyWhenIdle(QObject* window)

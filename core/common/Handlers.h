@@ -14,6 +14,10 @@ class QString;
 /// instead, and WriteText passes it on to the routine that wrote.
 void RunHandler(const std::function<void()>& handler);
 
+/// Runs `action` from the event loop once no handler is under way any more, nested loops of boxes
+/// included: what ends the program must not come while a box is being read.
+void WhenIdle(std::function<void()> action);
+
 /// Destroys a closed window once no handler is under way any more: the one that waits for an answer to
 /// its box, or for a modal window, may be the window's own.
 void DestroyWhenIdle(QObject* window);

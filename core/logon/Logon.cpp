@@ -7,6 +7,7 @@
 #include "core/gateway/DataGateway.h"
 #include "core/session/LocalAddress.h"
 #include "core/session/Session.h"
+#include "core/session/SessionControl.h"
 
 #include <QWidget>
 
@@ -60,6 +61,7 @@ void EnterMainWindow()
             Windows().Show(u"frmSpash"_s, frame->Widget());
     } catch (const RunTimeError& error) {
         ShowErrorMessage(error);
+        AbandonSession();
         if (Form* splash = Windows().Find(u"frmSpash"_s))
             splash->Widget()->close();
     }

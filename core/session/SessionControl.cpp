@@ -67,6 +67,15 @@ void EndSession()
                                                Session::SessionCheckID + u"'"_s);
 }
 
+void AbandonSession()
+{
+    try {
+        EndSession();
+    } catch (const RunTimeError&) {
+        // The next logon of the user sweeps the row away.
+    }
+}
+
 bool IsOutOfStepWithServer()
 {
     return Session::ClientFlag == u"1" &&

@@ -462,11 +462,46 @@ TEST_F(Logon, AnErrorInTheMainWindowsLoadIsToldAndNothingStaysOpen)
     Press(Qt::Key_Return);
     FailStatement(4, Refusal::Signalled);
     boxes.Expect(u"演练故障"_s);
+    boxes.WhileOpen([this] {
+        Settle();
+        EXPECT_EQ(m_ends, 0) << "the process ends over the open box";
+    });
     Enter(u"txtUserPWD"_s, u"1"_s);
     EXPECT_FALSE(IsLoaded(u"frmMain"_s));
     EXPECT_FALSE(IsLoaded(u"frmSpash"_s));
     EXPECT_GE(m_ends, 1);
     EXPECT_EQ(Count(u"ErrInfo"_s), 0);
+}
+
+TEST_F(Logon, AMainWindowThatFailsAfterItsSessionBeganTakesTheSessionBack)
+{
+    Db().Run(u"INSERT INTO User_Status VALUES ('02','100000','2026-03-09','10:00:00')"_s);
+    Open(u"frmLogon"_s);
+    Type(u"管理员"_s);
+    Press(Qt::Key_Return);
+    FailStatement(5, Refusal::MissingTable); // behind the row of User_Status
+    boxes.ExpectContaining(u"Sys_Define"_s);
+    boxes.WhileOpen([this] {
+        Settle();
+        EXPECT_EQ(m_ends, 0);
+    });
+    Enter(u"txtUserPWD"_s, u"1"_s);
+    EXPECT_EQ(Sessions(), u"02 100000"_s) << "his own alone";
+    EXPECT_THROW(Gateway().SelectRows(u"Sales"_s, u"SalesID"_s, QString()), DatabaseError);
+    Settle();
+    EXPECT_GE(m_ends, 1);
+}
+
+TEST_F(Logon, AConnectionLostInTheMainWindowsLoadIsToldOnce)
+{
+    Open(u"frmLogon"_s);
+    Type(u"管理员"_s);
+    Press(Qt::Key_Return);
+    FailStatement(5, Refusal::LostLink);
+    boxes.ExpectContaining(u"请先记下屏幕上的内容"_s);
+    Enter(u"txtUserPWD"_s, u"1"_s);
+    Settle();
+    EXPECT_GE(m_ends, 1);
 }
 
 // The splash
