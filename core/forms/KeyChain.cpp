@@ -57,6 +57,8 @@ FieldRule& FieldRule::AtMost(int characters)
 {
     if (auto* box = qobject_cast<QLineEdit*>(m_control))
         box->setMaxLength(characters);
+    else if (const auto* combo = qobject_cast<QComboBox*>(m_control); combo && combo->lineEdit())
+        combo->lineEdit()->setMaxLength(characters);
     return *this;
 }
 
@@ -132,21 +134,28 @@ FieldRule& KeyChain::Append(QWidget* control)
     return *m_rules.back();
 }
 
+void KeyChain::TellLimit(QLineEdit* box)
+{
+    connect(box, &QLineEdit::inputRejected, this, [box] {
+        QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())), u"最多%1个字"_s.arg(box->maxLength()),
+                           box);
+    });
+}
+
 FieldRule& KeyChain::Field(QLineEdit* box)
 {
     FieldRule& rule = Append(box);
     connect(box, &QLineEdit::textChanged, this, [this, &rule](const QString& text) {
         RunHandler([this, &rule, text] { TextChanged(rule, text); });
     });
-    connect(box, &QLineEdit::inputRejected, this, [box] {
-        QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())), u"最多%1个字"_s.arg(box->maxLength()),
-                           box);
-    });
+    TellLimit(box);
     return rule;
 }
 
 FieldRule& KeyChain::Combo(QComboBox* combo)
 {
+    if (combo->lineEdit())
+        TellLimit(combo->lineEdit());
     return Append(combo);
 }
 

@@ -35,7 +35,8 @@ public:
     FieldRule& ZeroWhenLeftEmpty();
     /// Left, the number is shown with so many decimals, grouped.
     FieldRule& ShownWith(int decimals);
-    /// The field takes so many characters at the most, and says so when more are typed or pasted.
+    /// The field, or a combo box that is typed in, takes so many characters at the most, and says so when
+    /// more are typed or pasted.
     FieldRule& AtMost(int characters);
 
     /// After each real change of the text, by typing or from code. With Numeric: only for a number.
@@ -124,6 +125,7 @@ public:
 
 private:
     FieldRule& Append(QWidget* control);
+    void TellLimit(QLineEdit* box);
     FieldRule* RuleOf(const QObject* control) const;
     FieldRule* Neighbour(const FieldRule& rule, int step) const;
     bool HandleKey(FieldRule& rule, const QKeyEvent& key);

@@ -1,6 +1,7 @@
 #include "core/logon/Logon.h"
 
 #include "core/base/RunTimeError.h"
+#include "core/base/Texts.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/WindowRegistry.h"
@@ -20,8 +21,11 @@ namespace {
 
 bool CheckUser(const QString& name, const QString& password, UnknownName unknownName)
 {
-    const RecordSet user = Gateway().SelectRows(u"User_List"_s, u"UserID,UserName,UserPWD,UserIP"_s,
-                                                u"UserName='"_s + name + u"'"_s);
+    RecordSet user = Gateway().SelectRows(u"User_List"_s, u"UserID,UserName,UserPWD,UserIP"_s,
+                                          u"UserName='"_s + name + u"'"_s);
+    // Quotes go into the statement as they are typed, so that a "name" can bring a row of its own.
+    while (!user.Eof() && !IsSameText(user.Text(1), name))
+        user.MoveNext();
     if (unknownName == UnknownName::Refuse && user.Eof()) {
         ShowInfo(u"不存在的用户名！"_s);
         return false;

@@ -26,7 +26,7 @@ frmLogon::frmLogon(QWidget* owner)
 {
     ui->setupUi(this);
     ui->cmbUserName->setCompleter(nullptr); // a typed name is that name, not the first that begins so
-    Chain().Combo(ui->cmbUserName);
+    Chain().Combo(ui->cmbUserName).AtMost(UserNameWidth);
     Chain().Field(ui->txtUserPWD).OnEnter([this] { Submit(); });
     OnPress(ui->cmdSubmit, [this] { Submit(); });
     OnPress(ui->cmdCancel, [this] { close(); });

@@ -178,7 +178,7 @@ TEST_F(Logon, StrangeNamesAndPasswordsDoNoHarm)
         QString name;
         QString box;
     } cases[] = {{u"'"_s, u"SQL syntax"_s},
-                 {u"x' Or '1'='1"_s, u"用户名与密码不匹配！"_s},
+                 {u"x' Or '1'='1"_s, u"没有当前记录。"_s},
                  {u"a\\"_s, u"SQL syntax"_s},
                  {QString(3000, u'长'), u"没有当前记录。"_s},
                  {u"１２"_s, u"没有当前记录。"_s}};
@@ -193,6 +193,53 @@ TEST_F(Logon, StrangeNamesAndPasswordsDoNoHarm)
         EXPECT_TRUE(IsShown(u"frmLogon"_s));
     }
     EXPECT_EQ(Count(u"User_List"_s), 1);
+}
+
+TEST_F(Logon, ARowThatTheNameBroughtItselfIsNoUser)
+{
+    const QString statement = u"x' union select '01','管理员','p','' where ''='"_s;
+    ASSERT_LE(statement.size(), 60);
+    Open(u"frmLogon"_s);
+    TakeStatements();
+    for (const QString& name : {statement, u"管理员'#"_s, u"管理员' or '1'='1"_s}) {
+        auto* combo = Find<QComboBox>(u"frmLogon"_s, u"cmbUserName"_s);
+        combo->setFocus();
+        combo->lineEdit()->selectAll();
+        Type(name);
+        Press(Qt::Key_Return);
+        Find(u"frmLogon"_s, u"txtUserPWD"_s)->selectAll();
+        boxes.Expect(u"没有当前记录。"_s);
+        Enter(u"txtUserPWD"_s, name == statement ? u"p"_s : u"1"_s);
+        EXPECT_EQ(TakeStatements(),
+                  QStringList{u"SELECT UserID,UserName,UserPWD,UserIP FROM User_List WHERE UserName='"_s +
+                              name + u"'"_s})
+            << "as it was typed, and nothing after it";
+        EXPECT_FALSE(IsLoaded(u"frmMain"_s));
+        EXPECT_EQ(Session::CurrentUserID, QString());
+    }
+}
+
+TEST_F(Logon, ANameIsFoundAsTheServerComparesIt)
+{
+    AddUser(u"'02','Élodie Ångström','2','','0'"_s);
+    Gateway().OpenConnection(ProgramPath(u"\\Data\\Data.ini"_s));
+    for (const QString& typed : {u"élodie ångström"_s, u"ELODIE ANGSTROM"_s, u"Elodie Ångström "_s}) {
+        Session::CurrentUserID.clear();
+        EXPECT_TRUE(TryLogon(typed, u"2"_s, UnknownName::Refuse)) << typed.toStdString();
+        EXPECT_EQ(Session::CurrentUserID, u"02"_s);
+    }
+    boxes.Expect(u"不存在的用户名！"_s);
+    EXPECT_FALSE(TryLogon(u"Elodie  Angstrom"_s, u"2"_s, UnknownName::Refuse));
+}
+
+TEST_F(Logon, TheNameFieldTakesNoMoreThanTheColumn)
+{
+    Open(u"frmLogon"_s);
+    Type(QString(61, u'1'));
+    EXPECT_EQ(Find<QComboBox>(u"frmLogon"_s, u"cmbUserName"_s)->currentText(), QString(60, u'1'));
+    EXPECT_EQ(Value(u"SELECT CHARACTER_MAXIMUM_LENGTH FROM information_schema.COLUMNS WHERE "
+                    "TABLE_SCHEMA=DATABASE() AND TABLE_NAME='User_List' AND COLUMN_NAME='UserName'"_s),
+              u"60"_s);
 }
 
 TEST_F(Logon, ThePasswordIsNotShown)
