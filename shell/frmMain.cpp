@@ -113,7 +113,7 @@ void frmMain::BuildStatusBar()
 
 void frmMain::OnLoad()
 {
-    m_workArea->SetCover(LoadCoverPicture());
+    ToldAfterwards([this] { m_workArea->SetCover(LoadCoverPicture()); });
     m_panels[1]->setText(GetCompName());
     m_panels[2]->setText(Session::CurrentUserName + u'[' + Session::CurrentUserID + u']');
     m_panels[3]->setText(FormatDate(Clock::Now().date()));

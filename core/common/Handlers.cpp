@@ -108,6 +108,15 @@ void AfterHandler(std::function<void()> action)
             Qt::QueuedConnection);
 }
 
+void ToldAfterwards(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (...) {
+        AfterHandler([failure = std::current_exception()] { std::rethrow_exception(failure); });
+    }
+}
+
 void WriteText(QLineEdit* box, const QString& text)
 {
     ++depth;

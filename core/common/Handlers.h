@@ -31,6 +31,9 @@ void WriteText(QLineEdit* box, const QString& text);
 /// handler is under way, the event loop runs it next.
 void AfterHandler(std::function<void()> action);
 
+/// Runs `action`. A failure does not end the handler under way; it is shown after it.
+void ToldAfterwards(const std::function<void()>& action);
+
 /// Stands while a modal window or box runs an event loop of its own inside a handler: events handled
 /// there begin afresh and show their own failures, and one that waits outside is none of theirs.
 class NestedLoop {

@@ -1,6 +1,7 @@
 #include "core/session/LocalAddress.h"
 #include "tests/core/LogonCase.h"
 
+#include <QFileInfo>
 #include <QHostAddress>
 #include <QTest>
 
@@ -634,6 +635,65 @@ TEST_F(Logon, TheConnectionScreenWritesWhatIsTyped)
         ReadFile(u"Data/New.ini"_s),
         u"[DataProp]\nServerName=服务器1\nUserID=a'b\nPWD=p;w\\\nDataBase=Shop\n[DBType]\nDrive=MYSQL\n"
         "[MYSQL]\nConnStr=DRIVER={MySQL ODBC 3.51 Driver};SERVER=服务器1;DATABASE=Orvane_PUB;UID=root;PWD=;\n"_s);
+}
+
+TEST_F(Logon, EnterInTheLastFieldOfTheConnectionScreenSaves)
+{
+    Session::DataIniPath = ProgramPath(u"\\Data\\New.ini"_s);
+    Open(u"frmDBC"_s);
+    Enter(u"txtServer"_s, u"db"_s);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), u"txtDatabase"_s);
+    EXPECT_EQ(ReadFile(u"Data/New.ini"_s), QString());
+    boxes.Expect(u"请重新启动程序！"_s);
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(IsLoaded(u"frmDBC"_s));
+    EXPECT_TRUE(ReadFile(u"Data/New.ini"_s).startsWith(u"[DataProp]\nServerName=db\nUserID=root\nPWD=\n"_s));
+    EXPECT_FALSE(QFile::exists(ProgramFolder() + u"/Data/New.ini.old"_s)) << "there was none before";
+}
+
+TEST_F(Logon, TheConnectionScreenKeepsTheFileItReplacesOnceAndPrivate)
+{
+    Session::DataIniPath = ProgramPath(u"\\Data\\Data.ini"_s);
+    const QString good =
+        u"[DataProp]\nPWD=secret\n[DBType]\nDrive=MYSQL\n[MYSQL]\nConnStr=SERVER=db;PORT=3307;UID=till;PWD=secret;DATABASE=Shop;\n"_s;
+    const QString kept = ProgramFolder() + u"/Data/Data.ini.old"_s;
+    WriteProgramFile(u"Data/Data.ini"_s, good);
+    WriteProgramFile(u"Data/Data.ini.old"_s, u"an older one\n"_s);
+    QFile::setPermissions(Session::DataIniPath, QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(kept, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+    Open(u"frmDBC"_s);
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtServer"_s), u"db"_s) << "what the connection text says";
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtUID"_s), u"till"_s);
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtPWD"_s), QString());
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtDatabase"_s), u"Shop"_s);
+    boxes.Expect(u"请重新启动程序！"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(ReadFile(u"Data/Data.ini"_s).contains(u"UID=root;PWD=;"_s));
+    EXPECT_EQ(ReadFile(u"Data/Data.ini.old"_s), good);
+    EXPECT_EQ(QFile::permissions(kept) &
+                  (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+              QFile::Permissions());
+}
+
+TEST_F(Logon, AConnectionFileThatCannotBeReadIsNamed)
+{
+    // The kernel's own file refuses reading to everybody, the superuser included.
+    RemoveFile(u"Data/Data.ini"_s);
+    const QString ini = ProgramFolder() + u"/Data/Data.ini"_s;
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, ini));
+    boxes.ExpectContaining(u"无法读取文件："_s + ini);
+    Open(u"frmLogon"_s);
+    EXPECT_TRUE(IsShown(u"frmLogon"_s));
+
+    boxes.ExpectContaining(u"无法读取文件："_s + ini);
+    Open(u"frmDBC"_s);
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtUID"_s), u"root"_s);
+    boxes.ExpectContaining(u"无法读取文件："_s + ini);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(IsShown(u"frmDBC"_s));
+    EXPECT_TRUE(QFileInfo(ini).isSymLink()) << "not replaced by a file of one line";
 }
 
 TEST_F(Logon, CancelOnTheConnectionScreenWritesNothing)
