@@ -557,6 +557,27 @@ TEST_F(MainWindow, EveryMenuOpensByKeyboard)
     }
 }
 
+TEST_F(MainWindow, AboutStartsTheFirstToolOfTheDesktopThatStarts)
+{
+    OpenFrame();
+    Choose(u"menuAbout"_s);
+    QWidget* about = Windows().Find(u"frmAbout"_s)->Widget();
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", ProgramFolder().toLocal8Bit());
+    const auto make = [this](const QString& tool, const QString& text) {
+        WriteProgramFile(tool, text);
+        QFile::setPermissions(ProgramFolder() + u'/' + tool,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    };
+    make(u"hardinfo2"_s, u"no program"_s); // there, and not to be started
+    boxes.Expect(u"此时系统信息不可用"_s);
+    Click(about->findChild<QLabel*>(u"cmdSysInfo"_s));
+    make(u"hardinfo"_s, u"#!/bin/sh\necho started >'%1/started'\n"_s.arg(ProgramFolder()));
+    Click(about->findChild<QLabel*>(u"cmdSysInfo"_s));
+    qputenv("PATH", path);
+    WaitFor([this] { return QFile::exists(ProgramFolder() + u"/started"_s); });
+}
+
 TEST_F(MainWindow, AboutTellsTheVersionAndWhereNoToolIsFoundSaysSo)
 {
     OpenFrame();
