@@ -6,6 +6,8 @@
 #include <QPointer>
 #include <QWidget>
 
+#include <utility>
+
 void WindowRegistry::Register(const QString& name, Factory factory)
 {
     m_factories.insert(name, std::move(factory));

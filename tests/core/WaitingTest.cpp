@@ -14,6 +14,7 @@
 #include <QTimer>
 
 #include <functional>
+#include <memory>
 
 #include <netinet/in.h>
 #include <netinet/tcp.h>
