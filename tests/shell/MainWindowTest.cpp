@@ -1,4 +1,5 @@
 #include "app/StartProgram.h"
+#include "core/common/Handlers.h"
 #include "core/forms/FormWindow.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -9,6 +10,7 @@
 #include <QAction>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -555,6 +557,16 @@ TEST_F(MainWindow, EveryMenuOpensByKeyboard)
         active->menu()->close();
         Settle();
     }
+}
+
+TEST_F(MainWindow, ABackgroundFileThatCannotBeReadIsNamedAndKeepsNobodyOut)
+{
+    QFile::remove(ProgramFolder() + u"/Data/BCover.ini"_s);
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, ProgramFolder() + u"/Data/BCover.ini"_s));
+    boxes.ExpectContaining(u"无法读取文件："_s + ProgramFolder() + u"/Data/BCover.ini"_s);
+    boxes.WhileOpen([] { EXPECT_NE(Windows().Find(u"frmMain"_s), nullptr); });
+    RunHandler([] { Windows().Show(u"frmMain"_s, nullptr); });
+    EXPECT_EQ(Count(u"User_Status"_s), 1);
 }
 
 TEST_F(MainWindow, AboutStartsTheFirstToolOfTheDesktopThatStarts)
