@@ -1,5 +1,6 @@
 #include "shell/frmChangePWD.h"
 
+#include "core/base/Texts.h"
 #include "core/common/Messages.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -45,7 +46,8 @@ void frmChangePWD::Save()
         Gateway().UpdateRows(u"User_List"_s, u"UserPWD='"_s + newPassword + u"'"_s, user);
         const RecordSet saved = Gateway().SelectRows(u"User_List"_s, u"UserID"_s,
                                                      user + u" And UserPWD='"_s + newPassword + u"'"_s);
-        ShowInfo(saved.Eof() ? u"密码修改失败！请联系管理员！"_s
-                             : u"密码修改成功，新密码将在下次启动时生效！"_s);
+        // A quote in the password can bring the rows of others.
+        const bool isHis = saved.RecordCount() == 1 && IsSameText(saved.Text(0), Session::CurrentUserID);
+        ShowInfo(isHis ? u"密码修改成功，新密码将在下次启动时生效！"_s : u"密码修改失败！请联系管理员！"_s);
     });
 }

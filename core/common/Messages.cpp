@@ -1,5 +1,6 @@
 #include "core/common/Messages.h"
 
+#include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 
 #include <QApplication>
@@ -205,7 +206,8 @@ QString AskFile(const FileQuestion& question)
     return Presenter().ChooseFile(question);
 }
 
-void ShowErrorMessage(const QString& description)
+void ShowErrorMessage(const RunTimeError& error)
 {
-    ShowInfo(description);
+    const QString advice = error.Advice();
+    ShowInfo(advice.isEmpty() ? error.Description() : error.Description() + u"\r\n"_s + advice);
 }

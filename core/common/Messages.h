@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class RunTimeError;
+
 /// The title of every box that names no other.
 extern const QString SystemTitle;
 
@@ -15,8 +17,9 @@ bool AskYesNo(const QString& text, const QString& title = SystemTitle);
 /// nothing.
 bool AskBeforeDestroying(const QString& text, const QString& title = SystemTitle);
 
-/// An information box with the description of an error, as the driver or the run time words it.
-void ShowErrorMessage(const QString& description);
+/// An information box with the description of an error, as the driver or the run time words it, and under
+/// it what the user should do, where the error says more than that.
+void ShowErrorMessage(const RunTimeError& error);
 
 /// What a file dialog asks for.
 struct FileQuestion {

@@ -98,7 +98,7 @@ void FormWindow::Guarded(const QString& label, const std::function<void()>& rout
     try {
         routine();
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
         LogError(Session::CurrentUserName, error.Description(), label);
     }
 }
@@ -109,7 +109,7 @@ void FormWindow::GuardedUnlogged(const std::function<void()>& routine)
     try {
         routine();
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
     }
 }
 

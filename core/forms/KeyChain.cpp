@@ -4,6 +4,7 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
+#include "core/common/Waiting.h"
 #include "core/forms/Fields.h"
 #include "core/forms/TextLine.h"
 
@@ -56,6 +57,8 @@ FieldRule& FieldRule::AtMost(int characters)
 {
     if (auto* box = qobject_cast<QLineEdit*>(m_control))
         TextLine::Of(box).SetLimit(characters);
+    else if (const auto* combo = qobject_cast<QComboBox*>(m_control); combo && combo->lineEdit())
+        TextLine::Of(combo->lineEdit()).SetLimit(characters);
     return *this;
 }
 
@@ -373,12 +376,13 @@ void KeyChain::ReturnTo(QWidget* control)
 {
     ++m_refusals;
     m_returningTo = control;
+    const auto giveBack = [chain = QPointer<KeyChain>(this)] {
+        if (!chain)
+            return;
+        if (chain->m_returningTo)
+            FocusAndSelect(chain->m_returningTo);
+        chain->m_returningTo = nullptr;
+    };
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_returningTo)
-                FocusAndSelect(m_returningTo);
-            m_returningTo = nullptr;
-        },
-        Qt::QueuedConnection);
+        this, [giveBack] { AfterWait(giveBack); }, Qt::QueuedConnection);
 }

@@ -36,8 +36,8 @@ public:
     FieldRule& ZeroWhenLeftEmpty();
     /// Left, the number is shown with so many decimals, grouped.
     FieldRule& ShownWith(int decimals);
-    /// The field takes so many characters at the most, and says so when more are typed or pasted. What
-    /// the program writes is not cut: grouping makes a number longer.
+    /// The field, or a combo box that is typed in, takes so many characters at the most, and says so when
+    /// more are typed or pasted. What the program writes is not cut: grouping makes a number longer.
     FieldRule& AtMost(int characters);
     /// No hint at a ' or \ that is typed: the text goes into no statement.
     FieldRule& TakesQuotes();

@@ -2,10 +2,11 @@
 
 #include "core/common/Handlers.h"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QPointer>
 #include <QWidget>
+
+#include <utility>
 
 void WindowRegistry::Register(const QString& name, const Factory& factory)
 {
@@ -95,14 +96,11 @@ void WindowRegistry::Unloaded(Form* form)
     }
     if (!m_loaded.isEmpty() || !m_allUnloaded)
         return;
-    // One window may close just before the next one is loaded: ask again from the event loop.
-    QMetaObject::invokeMethod(
-        qApp,
-        [this] {
-            if (m_loaded.isEmpty() && m_allUnloaded)
-                m_allUnloaded();
-        },
-        Qt::QueuedConnection);
+    // One window may close just before the next one is loaded, or before a box says why: ask again then.
+    WhenIdle([this] {
+        if (m_loaded.isEmpty() && m_allUnloaded)
+            m_allUnloaded();
+    });
 }
 
 void WindowRegistry::DropAll()

@@ -42,7 +42,8 @@ public:
     /// A window tells that it has closed.
     void Unloaded(Form* form);
 
-    /// Called from the event loop once no window is loaded any more: the process has nothing left to do.
+    /// Called from the event loop once no window is loaded and no handler under way any more: the process has
+    /// nothing left to do.
     void SetAllUnloadedHandler(std::function<void()> handler) { m_allUnloaded = std::move(handler); }
 
     /// Destroys every loaded window without its closing handler. For tests.

@@ -22,7 +22,7 @@ frmMultiLogon::frmMultiLogon(QWidget* owner)
 {
     ui->setupUi(this);
     Chain().Combo(ui->cmbAccName);
-    Chain().Field(ui->txtUserName).MovesOnWhenFilled();
+    Chain().Field(ui->txtUserName).AtMost(UserNameWidth).MovesOnWhenFilled();
     Chain().Field(ui->txtUserPWD).OnEnter([this] { Submit(); });
     OnPress(ui->cmdSubmit, [this] { Submit(); });
     OnPress(ui->cmdCancel, [this] { close(); });
