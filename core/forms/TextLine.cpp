@@ -53,6 +53,8 @@ void TextLine::Edited()
         m_limit < 0 ? 0
                     : std::clamp(start + added.size() + behind.size() - m_limit, qsizetype{0}, added.size());
     added.chop(excess);
+    if (excess > 0 && !added.isEmpty() && added.back().isHighSurrogate())
+        added.chop(1); // half a character, which no table stores
     if (excess > 0)
         Hint(u"最多%1个字"_s.arg(m_limit));
     else if (!m_areQuotesHarmless && (added.contains(u'\'') || added.contains(u'\\')))

@@ -489,6 +489,19 @@ TEST_F(Chain, ALimitCutsWhatComesInAndNothingThatStands)
     QToolTip::hideText();
 }
 
+TEST_F(Chain, ALimitCutsNoRareCharacterInTwo)
+{
+    OpenWith([](ProbeForm& form, QLineEdit* a, QLineEdit* /*b*/, QLineEdit* /*c*/) {
+        form.Chain().Field(a).AtMost(4);
+    });
+    Paste(u"一二三𠮷"_s); // the last one takes two places
+    EXPECT_EQ(Text(u"txtA"_s), u"一二三"_s);
+    Press(Qt::Key_Backspace);
+    Paste(u"𠮷"_s);
+    EXPECT_EQ(Text(u"txtA"_s), u"一二𠮷"_s);
+    QToolTip::hideText();
+}
+
 TEST_F(Chain, ALimitDoesNotCutWhatTheProgramWrites)
 {
     OpenWith([](ProbeForm& form, QLineEdit* a, QLineEdit* b, QLineEdit* c) {
