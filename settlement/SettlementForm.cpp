@@ -10,6 +10,7 @@
 #include "core/common/LotStock.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
+#include "core/forms/WholeText.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -18,7 +19,6 @@
 #include "settlement/SheetStyle.h"
 
 #include <QEvent>
-#include <QFont>
 #include <QFontMetricsF>
 #include <QLabel>
 #include <QLineEdit>
@@ -43,25 +43,14 @@ void WriteFee(QLineEdit* fee, double amount)
     FormatTextBox(fee, u"1"_s);
 }
 
-/// A caption beside a rate has room for six characters. A longer one is narrowed on the screen, down to
-/// half its width, and told whole by the tool tip where that is not enough; its size, which paper takes
-/// from it, stays.
+/// A caption beside a rate has room for six characters. A longer one is narrowed, and told whole by the tool
+/// tip where that is not enough.
 void ShowCaption(QLabel* label, const QString& caption)
 {
-    constexpr int Step = 5;
-    label->ensurePolished();
-    QFont font = label->font();
-    const auto fits = [&] {
-        return QFontMetricsF(font).horizontalAdvance(caption) <= label->contentsRect().width();
-    };
-    int stretch = QFont::Unstretched;
-    font.setStretch(stretch);
-    while (!fits() && stretch > QFont::Unstretched / 2)
-        font.setStretch(stretch -= Step);
-    if (label->font().stretch() != stretch)
-        label->setFont(font);
-    label->setToolTip(fits() ? RenamingHint : caption + u'\n' + RenamingHint);
-    label->setText(caption);
+    ShowNarrowed(label, caption);
+    const bool isWhole =
+        QFontMetricsF(label->font()).horizontalAdvance(caption) <= label->contentsRect().width();
+    label->setToolTip(isWhole ? RenamingHint : caption + u'\n' + RenamingHint);
 }
 
 } // namespace
