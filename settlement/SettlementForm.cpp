@@ -32,6 +32,7 @@ namespace {
 // Characters of the columns that take the typed texts.
 constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
+constexpr int AmountWidth = 20; // fourteen digits, all that a column holds, grouped and with one decimal
 constexpr int PersonWidth = 60;
 
 const QString RenamingHint = u"双击，或在格子里按F2：修改收费名称"_s;
@@ -97,9 +98,10 @@ void SettlementForm::WireFees()
     const auto unit = [this, rate](QLineEdit* box, int label, const QString& feeId, QLineEdit* fee) {
         rate(box, label, [this, box, feeId, fee] { ChargeByUnit(feeId, box, fee); });
     };
-    // No limit of characters: grouping lengthens a figure, and a limit would cut it without a word.
     const auto amount = [this, field](QLineEdit* box, int label) {
-        field(box, label).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] { RecalculateSettlement(); });
+        field(box, label).AtMost(AmountWidth).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] {
+            RecalculateSettlement();
+        });
     };
 
     percent(c.txtPer_LManage, 0, c.txtLManagePrice);
