@@ -317,13 +317,14 @@ void frmPRDList::CorrectLot(const Entry& entry, const QDateTime& now)
 QString frmPRDList::TakeLotId(const QDateTime& now)
 {
     const QString today = FormatDate(now.date());
-    const QString counterWhere = u"TID='C01' And CurrDate="_s + Quoted(today);
+    const QString series = Quoted(BillSeries::Lots);
+    const QString counterWhere = u"TID="_s + series + u" And CurrDate="_s + Quoted(today);
     const RecordSet counter = Gateway().SelectRows(u"Count_Bill"_s, u"CurrNumber"_s,
-                                                   u"CurrDate="_s + Quoted(today) + u" And TID='C01'"_s);
+                                                   u"CurrDate="_s + Quoted(today) + u" And TID="_s + series);
     std::int16_t k = 1;
     if (counter.Eof())
         Gateway().InsertRow(u"Count_Bill"_s, u"TID,CurrDate,CurrNumber"_s,
-                            u"'C01',"_s + Quoted(today) + u",0"_s);
+                            series + u',' + Quoted(today) + u",0"_s);
     else
         k = ToInt16(NullToZero(counter.Fields(0).Value) + 1);
     for (;;) {
@@ -352,7 +353,7 @@ bool frmPRDList::BookNewLot(const Entry& entry, const QDateTime& now)
         return false;
     }
     Gateway().UpdateRows(u"Count_Bill"_s, u"CurrNumber=CurrNumber+1"_s,
-                         u"TID='C01' And CurrDate="_s + Quoted(today));
+                         u"TID="_s + Quoted(BillSeries::Lots) + u" And CurrDate="_s + Quoted(today));
     if (entry.debitPrice != u"0") {
         const QStringList advance{
             Quoted(id),          Quoted(entry.prdNo), Quoted(entry.custName), Quoted(entry.prdName),

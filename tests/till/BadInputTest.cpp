@@ -59,7 +59,6 @@ TEST_P(BadFigure, AHugeNumberIsCutToTheFieldAndRefusedAtTheSave)
 
 TEST_P(BadFigure, ANumberNoDoubleHoldsIsNone)
 {
-    GoTo(GetParam().field == u"txtRPrice" ? u"txtVendee"_s : u"txtVendee"_s);
     TypeTicket();
     GoTo(GetParam().field);
     boxes.Expect(GetParam().message);

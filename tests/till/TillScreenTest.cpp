@@ -272,6 +272,37 @@ TEST_F(TillScreen, AFailedLookupLeavesNoLotInHand)
     EXPECT_EQ(NumSal(u"B-001"_s), u"200"_s);
 }
 
+// Totals that could not be worked out
+
+TEST_F(TillScreen, TotalsThatFailedOnTheLastKeystrokeAreWorkedOutBeforeTheSave)
+{
+    TypeTicket({.num = u"10"_s, .upr = u"3"_s});
+    GoTo(u"txtPerPack"_s);
+    FailStatement(1, Refusal::MissingTable);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    Type(u"2"_s);
+    EXPECT_EQ(Text(u"txtTotalAmount"_s), u"¥30.0"_s) << "still without the fee";
+    ClickSave();
+    EXPECT_EQ(TicketRow(u"01260309001"_s, u"Amount,PackAmount,TotalAmount"_s),
+              (QStringList{u"30"_s, u"20"_s, u"50"_s}));
+}
+
+TEST_F(TillScreen, TotalsThatFailAgainAtTheSaveStopIt)
+{
+    TypeTicket();
+    GoTo(u"txtPerPack"_s);
+    Db().Run(u"RENAME TABLE DFN_Round TO Away"_s);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    Type(u"2"_s);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    ClickSave();
+    EXPECT_EQ(Text(u"txtPerPack"_s), u"2"_s);
+    ExpectNothingWritten();
+    Db().Run(u"RENAME TABLE Away TO DFN_Round"_s);
+    ClickSave();
+    EXPECT_EQ(TicketRow(u"01260309001"_s, u"PackAmount,TotalAmount"_s), (QStringList{u"20"_s, u"52.5"_s}));
+}
+
 namespace {
 
 class NarrowFields : public TillTest {
