@@ -1,11 +1,8 @@
 #include "core/common/HeldKeys.h"
 
-#include <QAbstractNativeEventFilter>
 #include <QApplication>
-#include <QByteArray>
 #include <QHash>
 #include <QKeyEvent>
-#include <QtEndian>
 
 namespace {
 
@@ -14,22 +11,9 @@ namespace {
 /// begin to repeat.
 constexpr quint64 LongestRepeat = 1000;
 
-class HeldKeys : public QObject, public QAbstractNativeEventFilter {
+class HeldKeys : public QObject {
 public:
     using QObject::QObject;
-
-    /// What X tells before the toolkit looks at it. A release that was meant for a window behind a box is
-    /// dropped by the toolkit, and the next press of that key, an Enter for the box, is none the less fresh.
-    bool nativeEventFilter(const QByteArray& kind, void* message, qintptr* /*result*/) override
-    {
-        // A key event of the X protocol: its type in 7 bits, the code of the key, a number, the time.
-        constexpr quint8 release = 3;
-        constexpr quint8 typeBits = 0x7f;
-        const auto* event = static_cast<const uchar*>(message);
-        if (kind == "xcb_generic_event_t" && (event[0] & typeBits) == release)
-            m_letGoAt.insert(event[1], qFromUnaligned<quint32>(event + 4));
-        return false;
-    }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -72,9 +56,8 @@ private:
         // One press passes here several times: as a shortcut, at the window, at the controls.
         const bool isSamePress = down != m_down.cend() && down->at == now;
         const bool isRepeat = event.isAutoRepeat() || (isSamePress && down->isRepeat) ||
-                              (!isSamePress && down != m_down.cend() && now - down->at < LongestRepeat &&
-                               m_letGoAt.value(key) < down->at) ||
-                              m_releasedAt.value(key) == now || m_letGoAt.value(key) == now;
+                              (!isSamePress && down != m_down.cend() && now - down->at < LongestRepeat) ||
+                              m_releasedAt.value(key) == now;
         m_down.insert(key, {now, isRepeat});
         return isRepeat;
     }
@@ -112,14 +95,11 @@ private:
     };
     QHash<quint64, Press> m_down; ///< the last press of each key that was not released
     QHash<quint64, quint64> m_releasedAt;
-    QHash<quint64, quint64> m_letGoAt; ///< the last release that X told of each key, maybe not yet passed on
 };
 
 } // namespace
 
 void WatchHeldKeys(QApplication& application)
 {
-    auto* keys = new HeldKeys(&application);
-    application.installEventFilter(keys);
-    application.installNativeEventFilter(keys);
+    application.installEventFilter(new HeldKeys(&application));
 }

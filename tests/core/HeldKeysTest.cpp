@@ -3,17 +3,12 @@
 #include "tests/core/ProbeForm.h"
 #include "tests/support/WindowTest.h"
 
-#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
 #include <QWindow>
-#include <QtEndian>
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -61,24 +56,6 @@ public:
             Up(key, modifiers);
             Down(key, modifiers, text);
         }
-    }
-
-    /// A press that names its key as a real keyboard does.
-    static void PressWithCode(Qt::Key key, quint32 code)
-    {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, code, 0, 0);
-        event.setTimestamp(now);
-        QCoreApplication::sendEvent(QApplication::activeWindow()->windowHandle(), &event);
-        Settle();
-    }
-
-    /// A release as X sends it, which the toolkit does not pass on to any window.
-    static void TellRelease(quint8 code)
-    {
-        std::array<uchar, 32> message{3, code};
-        qToUnaligned(static_cast<quint32>(now), message.data() + 4);
-        QAbstractEventDispatcher::instance()->filterNativeEvent("xcb_generic_event_t", message.data(),
-                                                                nullptr);
     }
 
 private:
@@ -160,23 +137,6 @@ TEST_F(HeldKeys, AKeyThatIsPressedQuicklyIsNotHeld)
         now += 1;
     }
     EXPECT_EQ(log.size(), 3);
-}
-
-TEST_F(HeldKeys, AKeyIsPressedAnewAfterAReleaseThatNoWindowHeardOf)
-{
-    OpenProbe();
-    Find<QLineEdit>(u"frmProbe"_s, u"txtC"_s)->setFocus();
-    Keyboard::PressWithCode(Qt::Key_Return, 36);
-    ASSERT_EQ(log, QStringList{u"saved"_s});
-    now += 80;
-    Keyboard::TellRelease(36); // its window is behind a box by now
-    now += 300;
-    Keyboard::PressWithCode(Qt::Key_Return, 36);
-    EXPECT_EQ(log.size(), 2) << "the second Enter was taken for the first one, held";
-    now += 300;
-    Keyboard::TellRelease(50); // another key
-    Keyboard::PressWithCode(Qt::Key_Return, 36);
-    EXPECT_EQ(log.size(), 2) << "this one is held";
 }
 
 TEST_F(HeldKeys, AHeldShortcutPressesItsButtonOnceAndTypesNothing)
