@@ -3,17 +3,23 @@
 #include <QApplication>
 #include <QHash>
 #include <QKeyEvent>
+#include <QWindow>
 
 namespace {
 
 /// Milliseconds. A press without a release of the one before is a repetition when it follows within this
-/// time; after a longer one the release went to another program. Displays wait up to 0.7 s before they
-/// begin to repeat.
+/// time; after a longer one the release was lost. Displays wait up to 0.7 s before they begin to repeat.
 constexpr quint64 LongestRepeat = 1000;
 
 class HeldKeys : public QObject {
 public:
-    using QObject::QObject;
+    explicit HeldKeys(QApplication& application) : QObject(&application)
+    {
+        // A release that comes while the keyboard changes hands reaches nobody: the toolkit drops what is
+        // sent to a window behind a box that opened meanwhile, the display what is sent to one that closed.
+        // What a held key sends to the next window are pairs again, which are known by their time.
+        connect(&application, &QGuiApplication::focusWindowChanged, this, [this] { m_down.clear(); });
+    }
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
@@ -28,9 +34,6 @@ public:
             return TellRepeat(watched, *static_cast<QKeyEvent*>(event));
         case QEvent::KeyRelease:
             Release(*static_cast<QKeyEvent*>(event));
-            break;
-        case QEvent::ApplicationDeactivate:
-            m_down.clear(); // their releases go elsewhere
             break;
         default:
             break;
@@ -93,7 +96,7 @@ private:
         quint64 at;
         bool isRepeat;
     };
-    QHash<quint64, Press> m_down; ///< the last press of each key that was not released
+    QHash<quint64, Press> m_down; ///< in the present window, the last press of each key that was not released
     QHash<quint64, quint64> m_releasedAt;
 };
 
@@ -101,5 +104,5 @@ private:
 
 void WatchHeldKeys(QApplication& application)
 {
-    application.installEventFilter(new HeldKeys(&application));
+    application.installEventFilter(new HeldKeys(application));
 }

@@ -9,5 +9,5 @@ class QApplication;
 /// they belong together only when it finds both in its queue. A repeated press is one that
 /// - the display itself flags, or
 /// - comes in the very millisecond of its release, which no hand can do, or
-/// - comes without a release of the one before.
+/// - comes without a release of the one before, in the same window.
 void WatchHeldKeys(QApplication& application);
