@@ -32,6 +32,7 @@ void frmDataList::OnLoad()
 {
     Session::WindowSlotFree = false; // a record form may have freed the slot over the open list
     m_searchClause.clear();
+    m_list = nullptr; // opened anew, it begins at the first row
     RefreshList();
 }
 
@@ -67,13 +68,24 @@ void frmDataList::ShowPopup(const QPoint& globalPosition)
 
 void frmDataList::RefreshList()
 {
+    // The same list again, after a save for instance, stays on the row that the user was on.
+    const bool isSameList = m_list && m_menuKey == Session::CurrentMenuKey;
+    const QString selected = isSameList ? ui->lvDataList->SelectedKey() : QString();
     m_menuKey = Session::CurrentMenuKey;
     m_list = ListOf(m_menuKey);
     ui->lvDataList->ClearRows();
     ListContents contents = m_list ? ReadList(*m_list, m_searchClause) : ListContents();
     ShowColumns(contents.columns);
     ui->lvDataList->AddRows(std::move(contents.rows));
-    ui->lvDataList->SelectRow(0);
+    SelectKey(selected);
+}
+
+void frmDataList::SelectKey(const QString& key)
+{
+    int row = 0;
+    while (row < ui->lvDataList->RowCount() && ui->lvDataList->SubItem(row, 1) != key)
+        ++row;
+    ui->lvDataList->SelectRow(row < ui->lvDataList->RowCount() ? row : 0);
 }
 
 void frmDataList::ShowColumns(const std::vector<SheetColumn>& columns)

@@ -39,6 +39,8 @@ private:
     void ShowPopup(const QPoint& globalPosition);
     /// Sets the columns, unless they stand already: dragged widths outlive a rebuild.
     void ShowColumns(const std::vector<SheetColumn>& columns);
+    /// Selects the row with this key, the first one where there is none.
+    void SelectKey(const QString& key);
     /// The list whose rows are shown. When another was chosen since, its rows are shown instead, and there
     /// is none to act on: nobody has seen those rows yet.
     const ListTable* ListToActOn();
@@ -46,8 +48,8 @@ private:
 
     std::unique_ptr<Ui::frmDataList> ui;
     LotListMenu* m_lotMenu;
-    QString m_menuKey;                 ///< that the rows were read for
-    const ListTable* m_list = nullptr; ///< of that key; none for a key that has no list
-    QString m_searchClause;            ///< "" or " And ...", behind the condition of the goods list
+    QString m_menuKey;                  ///< that the rows were read for
+    const ListTable* m_list = nullptr;  ///< of that key; none for a key that has no list
+    QString m_searchClause;             ///< "" or " And ...", behind the condition of the goods list
     std::vector<SheetColumn> m_columns; ///< that stand
 };

@@ -150,16 +150,21 @@ TEST_F(DataList, NoColumnClipsItsHeaderOrAUsualValue)
     }
 }
 
-TEST_F(DataList, TheFirstRowIsCurrentAfterEachRebuildAndGivesTheKey)
+TEST_F(DataList, ARebuildStaysOnTheRowOfTheUserAndGivesItsKey)
 {
     AddThreeLots();
     OpenList();
     Form* list = Windows().Find(u"frmDataList"_s);
-    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s) << "a list begins at its first row";
     Press(Qt::Key_Down);
     EXPECT_EQ(List()->SelectedKey(), u"A-002"_s);
+    Db().Run(u"UPDATE Sys_Define SET PRD_Order=' Order By PRDNo'"_s);
     list->RefreshList();
-    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s);
+    EXPECT_EQ(List()->SelectedKey(), u"A-002"_s) << "the row that was worked on, wherever it stands now";
+    EXPECT_EQ(List()->SelectedRow(), 0);
+    Db().Run(u"DELETE FROM PRD_List WHERE PRDNo='A-002'"_s);
+    list->RefreshList();
+    EXPECT_EQ(List()->SelectedKey(), u"B-001"_s) << "its row is gone";
     Db().Run(u"DELETE FROM PRD_List"_s);
     list->RefreshList();
     EXPECT_EQ(List()->SelectedRow(), -1);
