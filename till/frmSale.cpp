@@ -103,7 +103,7 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
     OnPress(ui->cmdCancel, [this] { close(); });
     // The key stands beside the caption of 实收.
     connect(new QShortcut(QKeySequence(Qt::ALT | Qt::Key_R), this), &QShortcut::activated, this,
-            [this] { RunHandler([this] { FocusAndSelect(ui->txtRPrice); }); });
+            [this] { RunHandler([this] { GoToPayment(); }); });
     for (QLineEdit* box : TextBoxes()) {
         KeepNarrowed(box);
         connect(box, &QLineEdit::textEdited, ui->FlblNotice, &QLabel::clear);
@@ -111,6 +111,16 @@ frmSale::frmSale(QWidget* owner) : FormWindow(owner, SlotUse::Takes), ui(std::ma
 }
 
 frmSale::~frmSale() = default;
+
+void frmSale::GoToPayment()
+{
+    // One Enter too many behind a batch, and the cursor stands in an empty number, which is not left empty:
+    // from there the buyer's money must still be in reach.
+    std::optional<KeyChain::Suspension> unasked;
+    if (ui->txtPRDNo->text().isEmpty())
+        unasked.emplace(Chain());
+    FocusAndSelect(ui->txtRPrice);
+}
 
 void frmSale::OnLoad()
 {

@@ -35,6 +35,7 @@ private:
     void ShowHeadings();
     void TakeNextNumber();
     void PickVendee();
+    void GoToPayment();
     void LookupLot();
     void CheckVerifyCode();
     void CheckSalesman();

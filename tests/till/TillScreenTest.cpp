@@ -164,6 +164,15 @@ TEST_F(TillScreen, AKeyBringsTheCursorToThePaymentAndStandsBesideItsCaption)
     EXPECT_EQ(Caption(u"FlblGPrice"_s), u"¥12.0"_s);
 }
 
+TEST_F(TillScreen, TheKeyReachesThePaymentFromANumberThatIsStillEmpty)
+{
+    SellAndPay(u"10"_s);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
+    Press(Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"txtRPrice"_s);
+}
+
 TEST_F(TillScreen, TheKeyToThePaymentLeavesAFieldAsAClickDoes)
 {
     Press(Qt::Key_Return);
