@@ -1,5 +1,6 @@
 #include "core/forms/Fields.h"
 
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
@@ -11,6 +12,8 @@ void FocusAndSelect(QWidget* field)
     field->setFocus(Qt::OtherFocusReason);
     if (auto* box = qobject_cast<QLineEdit*>(field))
         box->selectAll();
+    else if (auto* date = qobject_cast<QDateEdit*>(field))
+        date->setSelectedSection(date->sectionAt(0)); // a day is typed from its year on
 }
 
 void Lock(QLineEdit* field)

@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolTip>
@@ -154,6 +155,11 @@ FieldRule& KeyChain::Check(QAbstractButton* check)
     return Append(check);
 }
 
+FieldRule& KeyChain::Date(QDateEdit* date)
+{
+    return Append(date);
+}
+
 FieldRule& KeyChain::List(QAbstractItemView* list)
 {
     return Append(list);
@@ -239,6 +245,8 @@ void KeyChain::MoveOn(FieldRule& rule, bool byEnter)
     const auto* box = qobject_cast<QLineEdit*>(rule.m_control);
     if (rule.m_movesOnWhenFilled && box && box->text().trimmed().isEmpty())
         return;
+    if (auto* date = qobject_cast<QDateEdit*>(rule.m_control))
+        date->interpretText(); // the chain has taken the key that would have ended the typing
     if (rule.m_beforeMovingOn)
         rule.m_beforeMovingOn();
     if (byEnter && rule.m_onEnter) {
