@@ -24,6 +24,8 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -32,6 +34,26 @@ constexpr int FieldWidth = 240;
 
 /// What a report on the screen switches on.
 const QStringList ReportButtons{u"mnuPreview"_s, u"mnuPrint"_s, u"mnuSearch"_s, u"mnuExport"_s};
+
+/// The keys that a frame has a use for.
+QString KeysOf(const ConditionFrame& frame)
+{
+    const auto has = [&frame](auto test) {
+        return std::any_of(frame.controls.begin(), frame.controls.end(), test);
+    };
+    using Control = ConditionControl;
+    QStringList keys{u"Enter 下一项，最后一项查询"_s};
+    if (has([](const Control& c) {
+            return c.kind == Control::Kind::Check || c.kind == Control::Kind::Radio;
+        }))
+        keys << u"空格 选中"_s;
+    if (has([](const Control& c) { return c.kind == Control::Kind::Combo; }))
+        keys << u"Delete 清除选择"_s;
+    if (has([](const Control& c) { return c.picksBuyer; }))
+        keys << u"F2 选客户"_s;
+    keys << u"Esc 关闭"_s;
+    return keys.join(u"    "_s);
+}
 
 } // namespace
 
@@ -72,7 +94,7 @@ void frmSearchCond::BuildWindow()
     m_rows->setHorizontalSpacing(12);
     m_rows->setVerticalSpacing(8);
 
-    auto* keys = new QLabel(u"Enter 下一项，最后一项查询    Delete 清除选择    Esc 关闭"_s, this);
+    auto* keys = new QLabel(KeysOf(*m_frame), this);
     keys->setObjectName(u"lblKeys"_s);
     keys->setProperty("isHint", true);
 
@@ -326,7 +348,7 @@ bool frmSearchCond::ShowReport(const ComposedCondition& condition)
     report->SetCondition(condition.report);
     report->ShowData(true);
     ShowInFrame(dynamic_cast<Form*>(report));
-    EnableToolbar(ReportButtons);
+    ::EnableToolbar(ReportButtons);
     putBack.dismiss();
     return true;
 }
