@@ -1,5 +1,6 @@
 #include "tests/reports/ConditionCase.h"
 
+#include "reports/ConditionFrames.h"
 #include "reports/frmSearchCond.h"
 
 #include <QApplication>
