@@ -17,11 +17,11 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
 #include <QScopeGuard>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -107,7 +107,6 @@ void frmSearchCond::BuildWindow()
     cancel->setObjectName(u"cmdCancel"_s);
     cancel->setText(u"关闭"_s);
     OnPress(cancel, [this] { close(); });
-    connect(new QShortcut(QKeySequence(Qt::Key_Escape), this), &QShortcut::activated, this, &QWidget::close);
 
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(12);
@@ -351,6 +350,15 @@ bool frmSearchCond::ShowReport(const ComposedCondition& condition)
     ::EnableToolbar(ReportButtons);
     putBack.dismiss();
     return true;
+}
+
+// Not a shortcut: that would also take the key that closes a combo box's open list.
+void frmSearchCond::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+    else
+        FormWindow::keyPressEvent(event);
 }
 
 void frmSearchCond::FreeSlot()

@@ -27,6 +27,7 @@ public:
 protected:
     /// The report that was asked for keeps the slot.
     void FreeSlot() override;
+    void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -272,6 +272,19 @@ TEST_F(SearchCond, DeleteTakesAChoiceBack)
     EXPECT_EQ(Session::ConditionCaption, u"2026-03-09"_s);
 }
 
+TEST_F(SearchCond, EscapeClosesTheOpenListOfAComboBoxFirst)
+{
+    Ask(u"RptStoreDetail"_s);
+    Press(Qt::Key_Down, Qt::AltModifier);
+    ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+    QTest::keyClick(QApplication::activePopupWidget()->focusWidget(), Qt::Key_Escape);
+    Settle();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_TRUE(IsOpen());
+    Press(Qt::Key_Escape);
+    EXPECT_FALSE(IsOpen());
+}
+
 // Checks
 
 TEST_F(SearchCond, AReportOfTwoKindsMustBeToldWhich)
