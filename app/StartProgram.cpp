@@ -22,6 +22,7 @@
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
+#include "reports/frmSearchCond.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "settlement/frmSetFeeLabel.h"
@@ -74,6 +75,7 @@ void RegisterWindows()
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
     Add<frmPrint>(u"frmPrint"_s);
+    Add<frmSearchCond>(u"frmSearchCond"_s);
 }
 
 bool StartProgram()

@@ -1,5 +1,6 @@
 #include "core/forms/Fields.h"
 
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
@@ -17,6 +18,8 @@ void FocusAndSelect(QWidget* field)
                           -static_cast<int>(box->text().size())); // shows its beginning
     else
         box->selectAll();
+    else if (auto* date = qobject_cast<QDateEdit*>(field))
+        date->setSelectedSection(date->sectionAt(0)); // a day is typed from its year on
 }
 
 void Lock(QLineEdit* field)

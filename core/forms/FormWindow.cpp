@@ -132,6 +132,12 @@ QList<QLineEdit*> FormWindow::TextBoxes() const
     return boxes;
 }
 
+void FormWindow::FreeSlot()
+{
+    if (m_slot != SlotUse::Untouched)
+        Session::WindowSlotFree = true;
+}
+
 void FormWindow::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
@@ -164,8 +170,7 @@ void FormWindow::closeEvent(QCloseEvent* event)
     if (!event->isAccepted() || m_isClosed)
         return;
     m_isClosed = true;
-    if (m_slot != SlotUse::Untouched)
-        Session::WindowSlotFree = true;
+    FreeSlot();
     Windows().Unloaded(this);
     DestroyWhenIdle(this);
 }
