@@ -32,9 +32,6 @@ public:
     void ToolbarSearch() override;
     void ToolbarDelete() override;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void ShowPopup(const QPoint& globalPosition);
     /// Sets the columns, unless they stand already: dragged widths outlive a rebuild.
@@ -46,8 +43,8 @@ private:
 
     std::unique_ptr<Ui::frmDataList> ui;
     LotListMenu* m_lotMenu;
-    QString m_menuKey;                 ///< that the rows were read for
-    const ListTable* m_list = nullptr; ///< of that key; none for a key that has no list
-    QString m_searchClause;            ///< "" or " And ...", behind the condition of the goods list
+    QString m_menuKey;                  ///< that the rows were read for
+    const ListTable* m_list = nullptr;  ///< of that key; none for a key that has no list
+    QString m_searchClause;             ///< "" or " And ...", behind the condition of the goods list
     std::vector<SheetColumn> m_columns; ///< that stand
 };
