@@ -22,6 +22,8 @@
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
+#include "reports/frmSetCol.h"
+#include "reports/frmSetField.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "settlement/frmSetFeeLabel.h"
@@ -74,6 +76,8 @@ void RegisterWindows()
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
     Add<frmPrint>(u"frmPrint"_s);
+    Add<frmSetField>(u"frmSetField"_s);
+    Add<frmSetCol>(u"frmSetCol"_s);
 }
 
 bool StartProgram()
