@@ -15,6 +15,7 @@
 #include "ui_frmPrint.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QShortcut>
 
 #include <utility>
@@ -47,6 +48,15 @@ const QList<ToolbarKey>& ToolbarKeys()
     };
     return keys;
 }
+
+/// A long report takes seconds.
+class WaitCursor {
+public:
+    WaitCursor() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    ~WaitCursor() { QApplication::restoreOverrideCursor(); }
+    WaitCursor(const WaitCursor&) = delete;
+    WaitCursor& operator=(const WaitCursor&) = delete;
+};
 
 } // namespace
 
@@ -203,6 +213,7 @@ void frmPrint::TakePaper(const Printable& printable)
 
 QString frmPrint::PrintOut(const Printable& printable)
 {
+    const WaitCursor wait;
     clsPrint& page = Page();
     TakePaper(printable);
     page.PrintStartDoc(m_printer, 1);
@@ -249,6 +260,7 @@ int frmPrint::DrawPreview(int lastPage)
 {
     if (!m_previewed.draw)
         return 0;
+    const WaitCursor wait;
     clsPrint& page = Page();
     TakePaper(m_previewed);
     page.PrintStartDoc(PagePreview(), ui->cmbmnuZoom->currentText().toDouble());
