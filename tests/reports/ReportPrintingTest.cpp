@@ -19,17 +19,6 @@ namespace {
 
 constexpr int RowsOfAPage = 33; // A4 lying: the last of them stands below the limit
 
-/// With ORVANE_DOCUMENTS set to a folder, the reports stay there to be looked at.
-void Keep(const QString& file, const QString& name)
-{
-    const QString folder = qEnvironmentVariable("ORVANE_DOCUMENTS");
-    if (folder.isEmpty())
-        return;
-    QDir().mkpath(folder);
-    QFile::remove(folder + u'/' + name);
-    EXPECT_TRUE(QFile::copy(file, folder + u'/' + name));
-}
-
 /// A report on the screen, printed and previewed as the toolbar does it.
 class PrintedReport : public WindowTest {
 protected:
@@ -137,7 +126,7 @@ TEST_F(PrintedReport, OnePageLyingInTheMiddle)
 {
     Show(3);
     ExpectGolden(u"paper-landscape"_s, Drawing(true));
-    Keep(PdfFiles().value(0), u"report-landscape.pdf"_s);
+    KeepDocument(PdfFiles().value(0), u"report-landscape.pdf"_s);
 }
 
 TEST_F(PrintedReport, OnePageUprightAtTheLeftOfThePaper)
@@ -152,7 +141,7 @@ TEST_F(PrintedReport, ThePageBreaksAtTheLimit)
     Show(RowsOfAPage + 3);
     ExpectGolden(u"paper-break"_s, Drawing(true));
     EXPECT_EQ(PdfInfo(PdfFiles().value(0), u"Pages"_s), u"2"_s);
-    Keep(PdfFiles().value(0), u"report-break.pdf"_s);
+    KeepDocument(PdfFiles().value(0), u"report-break.pdf"_s);
 }
 
 TEST_F(PrintedReport, ALastRowPastTheLimitLeavesAPageOfHeadings)
@@ -168,7 +157,7 @@ TEST_F(PrintedReport, IncomeAndExpenseHasEmptyFramesForHeadings)
 {
     ShowAmount();
     ExpectGolden(u"paper-amount"_s, Drawing(true));
-    Keep(PdfFiles().value(0), u"report-amount.pdf"_s);
+    KeepDocument(PdfFiles().value(0), u"report-amount.pdf"_s);
 }
 
 TEST_F(PrintedReport, OnThePreviewItHasTheGapOfThePreview)
@@ -292,16 +281,6 @@ TEST_F(PrintedReport, ThePreviewPrintsAllPagesAlsoWhenTheReportHasGone)
     EXPECT_EQ(PdfInfo(PdfFiles().value(0), u"Pages"_s), u"2"_s);
     Press(Qt::Key_Escape);
     EXPECT_EQ(Windows().Find(u"frmPrint"_s), nullptr);
-}
-
-TEST_F(PrintedReport, APreviewBehindTheReportComesToTheFront)
-{
-    Show(1);
-    Drawing(false);
-    Show(2);
-    Drawing(false);
-    EXPECT_TRUE(Printer().isVisible());
-    EXPECT_EQ(Printer().findChild<QComboBox*>(u"cbmPageRec"_s)->count(), 1);
 }
 
 // What goes wrong
