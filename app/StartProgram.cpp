@@ -23,6 +23,8 @@
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
 #include "reports/frmSearchCond.h"
+#include "reports/frmSetCol.h"
+#include "reports/frmSetField.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "settlement/frmSetFeeLabel.h"
@@ -76,6 +78,8 @@ void RegisterWindows()
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
     Add<frmPrint>(u"frmPrint"_s);
     Add<frmSearchCond>(u"frmSearchCond"_s);
+    Add<frmSetField>(u"frmSetField"_s);
+    Add<frmSetCol>(u"frmSetCol"_s);
 }
 
 bool StartProgram()

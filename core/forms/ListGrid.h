@@ -58,8 +58,11 @@ public:
 signals:
     /// Double click on a row, or Enter in the list.
     void RowChosen(int row);
+    /// The right button, the menu key or Shift+F10: a popup belongs here, in global coordinates.
+    void PopupAsked(const QPoint& globalPosition);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
