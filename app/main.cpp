@@ -1,5 +1,6 @@
 #include "app/StartProgram.h"
 #include "core/common/Handlers.h"
+#include "core/common/HeldKeys.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 
@@ -44,6 +45,7 @@ int main(int argc, char** argv)
     if (words.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&words);
     InstallSkin(application);
+    WatchHeldKeys(application);
 
     RegisterWindows();
     Windows().SetAllUnloadedHandler([] { QApplication::quit(); });

@@ -230,13 +230,8 @@ void frmPRDList::SaveLot()
 
 bool frmPRDList::FieldsAreComplete()
 {
-    const auto refuse = [](const QString& message, QLineEdit* field) {
-        ShowInfo(message);
-        FocusAndSelect(field);
-        return false;
-    };
     if (Trimmed(ui->txtPID).isEmpty())
-        return refuse(u"请填写编号！"_s, ui->txtPID);
+        return Refuse(ui->txtPID, u"请填写编号！"_s);
     const QString shortcut = Trimmed(ui->txtPRDNo_S);
     if (!shortcut.isEmpty() &&
         !Gateway()
@@ -244,13 +239,13 @@ bool frmPRDList::FieldsAreComplete()
                          u"PRDNo_S="_s + Quoted(shortcut) + u" And bolCheckOut='0' And PRDNo<>"_s +
                              Quoted(Trimmed(ui->txtPRDNo)))
              .Eof())
-        return refuse(u"相同快捷编号已存在！"_s, ui->txtPRDNo_S);
+        return Refuse(ui->txtPRDNo_S, u"相同快捷编号已存在！"_s);
     if (Trimmed(ui->txtNum).isEmpty())
-        return refuse(u"请填写数量！"_s, ui->txtNum);
+        return Refuse(ui->txtNum, u"请填写数量！"_s);
     if (Trimmed(ui->txtStore).isEmpty())
-        return refuse(u"请填写仓位！"_s, ui->txtStore);
+        return Refuse(ui->txtStore, u"请填写仓位！"_s);
     if (Trimmed(ui->txtCustName).isEmpty())
-        return refuse(u"请填写姓名！"_s, ui->txtCustName);
+        return Refuse(ui->txtCustName, u"请填写姓名！"_s);
     if (Trimmed(ui->txtDebitPrice).isEmpty())
         WriteText(ui->txtDebitPrice, u"0"_s);
     return true;

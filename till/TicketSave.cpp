@@ -189,10 +189,3 @@ bool frmSale::ClosesBatch() const
 {
     return ui->cmbCheckStatus->currentIndex() == StatusClosed;
 }
-
-bool frmSale::Refuse(QWidget* field, const QString& why)
-{
-    ShowInfo(why);
-    FocusAndSelect(field);
-    return false;
-}

@@ -62,7 +62,6 @@ private:
     /// (EmptyOpenBoxes).
     void EmptyTicket();
     bool ClosesBatch() const;
-    bool Refuse(QWidget* field, const QString& why);
 
     std::unique_ptr<Ui::frmSale> ui;
     QString m_lotId; ///< the lot last looked up; it outlives the save of its ticket

@@ -42,7 +42,7 @@ void ShowFailure(const std::exception_ptr& failure)
 
 } // namespace
 
-void RunHandler(const std::function<void()>& handler)
+bool RunHandler(const std::function<void()>& handler)
 {
     ++depth;
     ++underWay;
@@ -53,18 +53,21 @@ void RunHandler(const std::function<void()>& handler)
         failure = std::current_exception();
     }
     --depth;
+    bool isGood = !failure;
     if (depth > 0) {
         if (failure && !keptFailure)
             keptFailure = failure;
     } else {
         const std::exception_ptr kept = std::exchange(keptFailure, nullptr);
-        if (failure || kept)
+        isGood = isGood && !kept;
+        if (!isGood)
             ShowFailure(failure ? failure : kept);
         for (const auto& action : std::exchange(actionsAfterwards, {}))
             RunHandler(action);
     }
     if (--underWay == 0)
         DestroyClosedWindows();
+    return isGood;
 }
 
 void DestroyWhenIdle(QObject* window)

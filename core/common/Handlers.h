@@ -11,8 +11,8 @@ class QString;
 /// What every event of a window runs through, so that no failure crosses the toolkit's event loop: an
 /// exception out of `handler` shows its description in one box, ends the handler, and the program goes
 /// on. Inside another handler (a Change event set off by that handler's own write) the failure is kept
-/// instead, and WriteText passes it on to the routine that wrote.
-void RunHandler(const std::function<void()>& handler);
+/// instead, and WriteText passes it on to the routine that wrote. True when nothing failed.
+bool RunHandler(const std::function<void()>& handler);
 
 /// Destroys a closed window once no handler is under way any more: the one that waits for an answer to
 /// its box, or for a modal window, may be the window's own.

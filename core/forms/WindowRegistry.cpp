@@ -7,9 +7,9 @@
 #include <QPointer>
 #include <QWidget>
 
-void WindowRegistry::Register(const QString& name, Factory factory)
+void WindowRegistry::Register(const QString& name, const Factory& factory)
 {
-    m_factories.insert(name, std::move(factory));
+    m_factories.insert(name, factory);
 }
 
 Form* WindowRegistry::Load(const QString& name, QWidget* owner)
@@ -77,6 +77,13 @@ void WindowRegistry::ShowModal(const QString& name, QWidget* owner)
     }
     if (below)
         below->activateWindow();
+}
+
+void WindowRegistry::CloseThenShow(Form* finished, const QString& name, QWidget* owner)
+{
+    if (!finished->Widget()->close())
+        return;
+    AfterHandler([this, name, below = QPointer<QWidget>(owner)] { Show(name, below); });
 }
 
 void WindowRegistry::Unloaded(Form* form)

@@ -16,7 +16,7 @@ public:
     using Factory = std::function<Form*(QWidget* owner)>;
 
     /// Makes a window known. Its object name becomes the name.
-    void Register(const QString& name, Factory factory);
+    void Register(const QString& name, const Factory& factory);
     bool Knows(const QString& name) const { return m_factories.contains(name); }
 
     /// The window while it is loaded, shown or not; nullptr otherwise.
@@ -34,6 +34,10 @@ public:
 
     /// Load, show it over everything else, and return when it is closed. The owner gets the keyboard back.
     void ShowModal(const QString& name, QWidget* owner);
+
+    /// Closes a window that has done its work; when the handler under way is over, shows the other one. Not
+    /// shown when the first refused to close.
+    void CloseThenShow(Form* finished, const QString& name, QWidget* owner);
 
     /// A window tells that it has closed.
     void Unloaded(Form* form);

@@ -14,10 +14,10 @@ frmDBC::frmDBC(QWidget* owner) : FormWindow(owner, SlotUse::Untouched), ui(std::
     ui->setupUi(this);
     ui->txtUID->setText(u"root"_s);
     ui->txtDatabase->setText(u"Orvane_PUB"_s);
-    Chain().Field(ui->txtServer).AtMost(IniValueLength);
-    Chain().Field(ui->txtUID).AtMost(IniValueLength);
-    Chain().Field(ui->txtPWD).AtMost(IniValueLength);
-    Chain().Field(ui->txtDatabase).AtMost(IniValueLength);
+    Chain().Field(ui->txtServer).AtMost(IniValueLength).TakesQuotes();
+    Chain().Field(ui->txtUID).AtMost(IniValueLength).TakesQuotes();
+    Chain().Field(ui->txtPWD).AtMost(IniValueLength).TakesQuotes();
+    Chain().Field(ui->txtDatabase).AtMost(IniValueLength).TakesQuotes();
     OnPress(
         ui->cmdOK, [this] { Save(); }, QKeySequence(u"Alt+S"_s));
     OnPress(ui->cmdCancel, [this] { close(); });

@@ -112,13 +112,11 @@ void frmLogon::Submit()
     const QString name = ui->cmbUserName->currentText().trimmed();
     const QString password = ui->txtUserPWD->text().trimmed();
     if (name.isEmpty()) {
-        ShowInfo(u"用户名为空！"_s);
-        FocusAndSelect(ui->cmbUserName);
+        Refuse(ui->cmbUserName, u"用户名为空！"_s);
         return;
     }
     if (password.isEmpty()) {
-        ShowInfo(u"密码为空！"_s);
-        FocusAndSelect(ui->txtUserPWD);
+        Refuse(ui->txtUserPWD, u"密码为空！"_s);
         return;
     }
     if (TryLogon(name, password, UnknownName::ReadAnyway)) {

@@ -8,6 +8,7 @@
 #include <mysql.h>
 
 #include <memory>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -44,7 +45,8 @@ void FetchServerDateLater(const QString& iniPath, QObject* receiver,
         *answer = FetchServerDate(iniPath);
         mysql_thread_end();
     });
-    QObject::connect(thread, &QThread::finished, receiver, [answer, receive] { receive(*answer); });
+    QObject::connect(thread, &QThread::finished, receiver,
+                     [answer, receive = std::move(receive)] { receive(*answer); });
     QObject::connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     thread->start();
 }
