@@ -22,6 +22,7 @@
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
+#include "reports/frmExport.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "settlement/frmSetFeeLabel.h"
@@ -73,6 +74,7 @@ void RegisterWindows()
     Add<frmSale>(u"frmSale"_s);
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
+    Add<frmExport>(u"frmExport"_s);
     Add<frmPrint>(u"frmPrint"_s);
 }
 
