@@ -7,6 +7,7 @@ constexpr std::uint16_t Sst = 0x00fc;
 constexpr std::uint16_t Continue = 0x003c;
 constexpr qsizetype RecordHead = 4;
 constexpr qsizetype StringHead = 3; // length and flags
+constexpr qsizetype LongestLetter = 4;
 } // namespace
 
 BiffRecords& BiffRecords::Begin(std::uint16_t kind)
@@ -94,11 +95,13 @@ void SharedStrings::Write(BiffRecords& records) const
     for (const QString& text : m_texts) {
         const bool isWide = IsWide(text);
         // The head of a string is never torn, and a letter stands behind it.
-        if (records.Room() < StringHead + 2)
+        if (records.Room() < StringHead + LongestLetter)
             records.Begin(Continue);
         records.Word(static_cast<std::uint16_t>(text.size())).Byte(isWide);
         for (QStringView rest = text; !rest.isEmpty();) {
-            const qsizetype fits = std::min(rest.size(), records.Room() / (isWide ? 2 : 1));
+            qsizetype fits = std::min(rest.size(), records.Room() / (isWide ? 2 : 1));
+            if (fits < rest.size() && rest[fits - 1].isHighSurrogate())
+                --fits; // readers decode each piece by itself
             records.Letters(rest.first(fits), isWide);
             rest = rest.sliced(fits);
             if (!rest.isEmpty())

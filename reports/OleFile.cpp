@@ -64,10 +64,11 @@ void OleFile::Write(const QByteArray& bytes)
 
 void OleFile::Close()
 {
+    // A container closes its file with it.
     for (GsfOutput* part :
          {m_parts->stream.get(), GSF_OUTPUT(m_parts->container.get()), m_parts->file.get()}) {
         errno = 0;
-        if (!gsf_output_close(part) || gsf_output_error(part))
+        if (!gsf_output_is_closed(part) && !gsf_output_close(part))
             throw WriteFailure(errno);
     }
 }

@@ -4,6 +4,7 @@
 #include "reports/WriteFailure.h"
 
 #include <QByteArray>
+#include <QDir>
 #include <QFile>
 
 #include <algorithm>
@@ -114,7 +115,9 @@ bool EndsWhole(const QByteArray& path)
 void WriteXlsx(const SpreadsheetPage& page, const QString& path)
 {
     const QByteArray file = QFile::encodeName(path);
+    QByteArray temporary = QFile::encodeName(QDir::tempPath());
     lxw_workbook_options options{};
+    options.tmpdir = temporary.data();
     options.constant_memory = LXW_TRUE;
     lxw_workbook* book = workbook_new_opt(file.constData(), &options);
     errno = 0;
