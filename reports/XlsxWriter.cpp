@@ -60,8 +60,8 @@ void SetColumns(lxw_worksheet* sheet, const SpreadsheetPage& page, lxw_format* p
                          plain);
 }
 
-// Rows are written from the first to the last: the library keeps one only.
-void WriteRow(lxw_worksheet* sheet, const SpreadsheetPage& page, const Formats& formats, int row)
+// Rows are written from the first to the last: the library keeps one only. Answers how many cells there are.
+int WriteRow(lxw_worksheet* sheet, const SpreadsheetPage& page, const Formats& formats, int row)
 {
     const auto line = static_cast<lxw_row_t>(row);
     worksheet_set_row(sheet, line, page.RowHeight(row), nullptr);
@@ -70,20 +70,24 @@ void WriteRow(lxw_worksheet* sheet, const SpreadsheetPage& page, const Formats& 
         worksheet_merge_range(sheet, line, 0, line, static_cast<lxw_col_t>(page.TableWidth() - 1),
                               page.Text(row, 0).toUtf8().constData(),
                               formats.at(static_cast<std::size_t>(look)));
-        return;
+        return page.TableWidth();
     }
+    int cells = 0;
     for (int column = 0; column < page.ColumnCount(); ++column) {
         const QString text = page.Text(row, column);
         const SpreadsheetPage::Look look = page.LookOf(row, column);
-        if (!text.isEmpty() || look != SpreadsheetPage::Look::Plain)
-            worksheet_write_string(sheet, line, static_cast<lxw_col_t>(column), text.toUtf8().constData(),
-                                   formats.at(static_cast<std::size_t>(look)));
+        if (text.isEmpty() && look == SpreadsheetPage::Look::Plain)
+            continue;
+        worksheet_write_string(sheet, line, static_cast<lxw_col_t>(column), text.toUtf8().constData(),
+                               formats.at(static_cast<std::size_t>(look)));
+        ++cells;
     }
+    return cells;
 }
 
-/// Where the folder for temporary files is full the library notices nothing, and packs what was left of the
-/// sheet. The sheet is by far its largest part: when that is whole, so are the others.
-bool EndsWhole(const QByteArray& path)
+/// Cells in the file, as it stands on the disk; 0 for one that cannot be read. Where the folder for temporary
+/// files is full the library notices nothing, and packs what was left of the sheet.
+qsizetype CellsIn(const QByteArray& path)
 {
     gsf_init();
     struct Unreference {
@@ -91,23 +95,26 @@ bool EndsWhole(const QByteArray& path)
     };
     const std::unique_ptr<GsfInput, Unreference> file(gsf_input_stdio_new(path.constData(), nullptr));
     if (!file)
-        return false;
+        return 0;
     const std::unique_ptr<GsfInfile, Unreference> archive(gsf_infile_zip_new(file.get(), nullptr));
     if (!archive)
-        return false;
+        return 0;
     const std::unique_ptr<GsfInput, Unreference> sheet(
         gsf_infile_child_by_vname(archive.get(), "xl", "worksheets", "sheet1.xml", nullptr));
-    QByteArray tail;
+    const QByteArray cell = "<c r="; // nowhere else: a text has no "<"
+    qsizetype cells = 0;
+    QByteArray block;
     while (sheet && gsf_input_remaining(sheet.get()) > 0) {
-        const auto block =
+        const auto size =
             static_cast<std::size_t>(std::min<gsf_off_t>(gsf_input_remaining(sheet.get()), 65536));
-        const guint8* bytes = gsf_input_read(sheet.get(), block, nullptr);
+        const guint8* bytes = gsf_input_read(sheet.get(), size, nullptr);
         if (!bytes)
-            return false;
-        tail = tail.right(64) +
-               QByteArray(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(block)).right(64);
+            return 0;
+        block = block.right(cell.size() - 1);
+        block.append(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
+        cells += block.count(cell);
     }
-    return tail.trimmed().endsWith("</worksheet>");
+    return cells;
 }
 
 } // namespace
@@ -132,11 +139,12 @@ void WriteXlsx(const SpreadsheetPage& page, const QString& path)
         formats.at(static_cast<std::size_t>(look)) =
             FormatOf(book, SpreadsheetPage::Details(static_cast<SpreadsheetPage::Look>(look)));
     SetColumns(sheet, page, formats[0]);
+    qsizetype cells = 0;
     for (int row = 0; row < page.RowCount(); ++row)
-        WriteRow(sheet, page, formats, row);
+        cells += WriteRow(sheet, page, formats, row);
     errno = 0;
     if (workbook_close(book) != LXW_NO_ERROR)
         throw WriteFailure(errno);
-    if (!EndsWhole(file))
+    if (CellsIn(file) != cells)
         throw WriteFailure(ENOSPC);
 }
