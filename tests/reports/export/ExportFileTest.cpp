@@ -144,6 +144,15 @@ TEST_F(ExportFile, AColumnWiderThanASpreadsheetTakesIsItsWidest)
     EXPECT_EQ(page.ColumnWidth(1), 0);
 }
 
+TEST_F(ExportFile, CaptionsWithoutWordsAreEmptyRows)
+{
+    report->captions = {QString(), QString(), QString()};
+    for (const QString& name : {u"bare.xls"_s, u"bare.xlsx"_s}) {
+        WriteSpreadsheet(SpreadsheetPage(*report, false), Path(name));
+        EXPECT_EQ(ReadBack(Path(name)), Described(SpreadsheetPage(*report, false)));
+    }
+}
+
 TEST_F(ExportFile, OfOneColumnMergesNothing)
 {
     report->sheet.SetColumns({{u"编号"_s, 1000, SheetColumn::Kind::Text}});
