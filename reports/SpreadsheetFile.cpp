@@ -89,7 +89,7 @@ void Write(const SpreadsheetPage& page, const QString& path)
 
 QString SpreadsheetPath(const QString& name)
 {
-    const QString path = QDir::cleanPath(QDir::home().absoluteFilePath(name));
+    QString path = QDir::cleanPath(QDir::home().absoluteFilePath(name));
     if (QFileInfo(path).isDir() || name.endsWith(u'/') || IsNewFormat(path) ||
         path.endsWith(OldFormat, Qt::CaseInsensitive))
         return path;

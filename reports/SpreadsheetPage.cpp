@@ -67,7 +67,7 @@ SpreadsheetPage::Look SpreadsheetPage::LookOf(int row, int column) const
 
 QString SpreadsheetPage::Text(int row, int column) const
 {
-    const QString words = Words(row, column);
+    QString words = Words(row, column);
     if (words.size() <= MostLetters)
         return words;
     return words.left(words[MostLetters - 1].isHighSurrogate() ? MostLetters - 1 : MostLetters);

@@ -105,7 +105,7 @@ private:
     /// A name to be written, with the ending of the filter chosen where it has none.
     static QString WithEnding(const QFileDialog& dialog, const FileQuestion& question)
     {
-        const QString chosen = dialog.selectedFiles().value(0);
+        QString chosen = dialog.selectedFiles().value(0);
         if (!question.isSave || !QFileInfo(chosen).suffix().isEmpty())
             return chosen;
         // The dialog names its filters without their patterns.

@@ -2,7 +2,7 @@
 #include "reports/SpreadsheetFile.h"
 #include "reports/SpreadsheetPage.h"
 #include "reports/XlsWriter.h"
-#include "tests/reports/export/ExportCase.h"
+#include "tests/export/ExportCase.h"
 
 #include <QFile>
 
@@ -60,7 +60,7 @@ QString Described(const SpreadsheetPage& page)
 
 void ExpectGolden(const QString& name, const QString& text)
 {
-    QFile file(SourcePath(u"tests/reports/export/golden/"_s + name + u".txt"_s));
+    QFile file(SourcePath(u"tests/export/golden/"_s + name + u".txt"_s));
     if (qEnvironmentVariableIsSet("ORVANE_REWRITE_GOLDEN")) {
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(text.toUtf8());

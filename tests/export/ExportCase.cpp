@@ -1,4 +1,4 @@
-#include "tests/reports/export/ExportCase.h"
+#include "tests/export/ExportCase.h"
 
 #include "core/session/Session.h"
 #include "reports/frmExport.h"
@@ -116,7 +116,7 @@ QString OutputOf(const QString& program, const QStringList& arguments)
 
 QString ExportCase::ReadBack(const QString& file) const
 {
-    return OutputOf(SourcePath(u"tests/reports/export/describe-spreadsheet"_s),
+    return OutputOf(SourcePath(u"tests/export/describe-spreadsheet"_s),
                     {file, QString::number(report->sheet.ColumnCount() - 1)});
 }
 

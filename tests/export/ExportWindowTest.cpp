@@ -1,5 +1,5 @@
 #include "reports/SpreadsheetFile.h"
-#include "tests/reports/export/ExportCase.h"
+#include "tests/export/ExportCase.h"
 
 #include <QDir>
 #include <QFile>
