@@ -22,6 +22,7 @@
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
+#include "reports/frmExport.h"
 #include "reports/frmSearchCond.h"
 #include "reports/frmSetCol.h"
 #include "reports/frmSetField.h"
@@ -76,6 +77,7 @@ void RegisterWindows()
     Add<frmSale>(u"frmSale"_s);
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
+    Add<frmExport>(u"frmExport"_s);
     Add<frmPrint>(u"frmPrint"_s);
     Add<frmSearchCond>(u"frmSearchCond"_s);
     Add<frmSetField>(u"frmSetField"_s);
