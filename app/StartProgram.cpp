@@ -34,6 +34,8 @@
 #include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
 
+#include <type_traits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,7 +43,10 @@ namespace {
 template <typename Window>
 void Add(const QString& name)
 {
-    Windows().Register(name, [](QWidget* owner) -> Form* { return new Window(owner); });
+    // Of a window with a LoadBill of its own the function is that class's member, otherwise Form's.
+    constexpr bool loadsBills = !std::is_same_v<decltype(&Window::LoadBill), decltype(&Form::LoadBill)>;
+    Windows().Register(
+        name, [](QWidget* owner) -> Form* { return new Window(owner); }, loadsBills);
 }
 
 } // namespace

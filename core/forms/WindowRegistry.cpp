@@ -7,9 +7,13 @@
 #include <QPointer>
 #include <QWidget>
 
-void WindowRegistry::Register(const QString& name, Factory factory)
+void WindowRegistry::Register(const QString& name, Factory factory, bool loadsBills)
 {
     m_factories.insert(name, std::move(factory));
+    if (loadsBills)
+        m_billWindows.insert(name);
+    else
+        m_billWindows.remove(name);
 }
 
 Form* WindowRegistry::Load(const QString& name, QWidget* owner)
