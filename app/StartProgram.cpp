@@ -22,6 +22,7 @@
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
+#include "reports/frmReport.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "settlement/frmSetFeeLabel.h"
@@ -78,6 +79,8 @@ void RegisterWindows()
     Add<frmSale>(u"frmSale"_s);
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
+    Add<frmReport>(u"frmReport"_s);
+    Add<ProgressWindow>(u"frmProgress"_s);
     Add<frmPrint>(u"frmPrint"_s);
 }
 
