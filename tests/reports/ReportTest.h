@@ -8,8 +8,8 @@ class ListGrid;
 
 /// A report as it is asked for: what menu, condition window and session say of it.
 struct ReportCase {
-    QString name; ///< of its golden file
-    QString menuKey;
+    QString name = {}; ///< of its golden file
+    QString menuKey = {};
     QString kind = {};
     bool all = true;
     QString key = {};
