@@ -5,6 +5,8 @@
 #include "core/forms/ProgressWindow.h"
 #include "core/forms/WindowRegistry.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace {

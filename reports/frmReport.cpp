@@ -15,7 +15,10 @@
 
 #include "ui_frmReport.h"
 
+#include <QFont>
 #include <QHeaderView>
+#include <QLabel>
+#include <QResizeEvent>
 #include <QShortcut>
 
 #include <algorithm>
@@ -143,9 +146,12 @@ void frmReport::ShowData(bool useColStatus)
     m_isWhole = false;
     ui->lvReport->SetColumns({});
     ui->lvReport->setHeaderHidden(m_query.menuKey == AmountReportKey);
-    const bool opens = DocumentBehind(m_query.menuKey);
-    const bool sorts = m_query.menuKey == SortedReport;
-    ui->lblKeys->setText(opens ? u"Enter 打开单据"_s : sorts ? u"Ctrl+2 … Ctrl+9 按第几列排序"_s : QString());
+    QStringList keys{u"Esc 关闭"_s};
+    if (DocumentBehind(m_query.menuKey))
+        keys.prepend(u"Enter 打开单据"_s);
+    if (m_query.menuKey == SortedReport)
+        keys.prepend(u"Ctrl+2 … Ctrl+9 按第几列排序"_s);
+    ui->lblKeys->setText(keys.join(u"　"));
     ui->lblReportName->setText(GetReportTitle(m_query.menuKey));
     TellCondition(u"（已中断，不是全部）"_s); // unless it comes to its end
     {

@@ -1,4 +1,5 @@
 #include "core/base/RunTimeError.h"
+#include "core/forms/FunctionWindows.h"
 #include "core/forms/ListGrid.h"
 #include "core/forms/ProgressWindow.h"
 #include "core/gateway/DataGateway.h"
@@ -126,6 +127,25 @@ TEST_F(ReportForm, HoldsTheSlotAndClosesByEscAndByAltC)
         EXPECT_EQ(OpenReport(), nullptr);
         EXPECT_TRUE(Session::WindowSlotFree);
     }
+}
+
+TEST_F(ReportForm, InTheMainWindowEscClosesItWithItsFrame)
+{
+    OpenMain();
+    Build(GoldenReport(u"RptSaleDetail"_s));
+    auto* form = Windows().Find(u"frmReport"_s);
+    ShowInFrame(form);
+    Settle();
+    EXPECT_EQ(FocusName(), u"lvReport"_s);
+    EXPECT_EQ(Window()->window()->objectName(), u"frmMain"_s);
+    EXPECT_EQ(Find<QLabel>(u"frmReport"_s, u"lblKeys"_s)->text(), u"Enter 打开单据　Esc 关闭"_s);
+    Press(Qt::Key_Down);
+    EXPECT_EQ(List()->SelectedRow(), 0);
+    Press(Qt::Key_Escape);
+    EXPECT_EQ(OpenReport(), nullptr);
+    Settle();
+    EXPECT_EQ(Windows().Find(u"frmMain"_s)->Widget()->findChildren<QWidget*>(u"frmReport"_s).size(), 0);
+    EXPECT_NE(Windows().Find(u"frmMain"_s), nullptr);
 }
 
 TEST_F(ReportForm, SwitchesOnTheFourButtonsOfAReport)
