@@ -95,7 +95,7 @@ bool StartProgram()
         return Windows().Show(sets < 2 ? u"frmLogon"_s : u"frmMultiLogon"_s, nullptr) != nullptr ||
                Windows().Find(u"frmDBC"_s) != nullptr;
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
         return false;
     }
 }

@@ -1,5 +1,8 @@
 #include "app/StartProgram.h"
+#include "core/base/Version.h"
 #include "core/common/Handlers.h"
+#include "core/common/HeldKeys.h"
+#include "core/common/Waiting.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
 
@@ -7,6 +10,8 @@
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +40,14 @@ public:
 
 int main(int argc, char** argv)
 {
+    if (argc == 2 && qstrcmp(argv[1], "--version") == 0) { // before anything asks for a display
+        std::printf("orvane %s\n", qPrintable(ProgramVersion()));
+        return 0;
+    }
     Application application(argc, argv);
     QApplication::setApplicationName(u"orvane"_s);
+    QApplication::setApplicationVersion(ProgramVersion());
+    qInfo("orvane %s", qPrintable(ProgramVersion()));
     // A window that is loaded but not shown keeps the process alive; the registry tells the end.
     QApplication::setQuitOnLastWindowClosed(false);
     QLocale::setDefault(QLocale(QLocale::Chinese, QLocale::China));
@@ -44,6 +55,8 @@ int main(int argc, char** argv)
     if (words.load(u"qtbase_zh_CN"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(&words);
     InstallSkin(application);
+    WatchHeldKeys(application);
+    InstallWaitCursor();
 
     RegisterWindows();
     Windows().SetAllUnloadedHandler([] { QApplication::quit(); });

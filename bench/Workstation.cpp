@@ -78,6 +78,11 @@ void Workstation::Inform(const QString& /*title*/, const QString& text)
     GiveUp(u"an unexpected box: "_s + text);
 }
 
+bool Workstation::AskBeforeDestroying(const QString& /*title*/, const QString& text)
+{
+    GiveUp(u"an unexpected question: "_s + text);
+}
+
 bool Workstation::Ask(const QString& /*title*/, const QString& /*text*/)
 {
     return true; // the one question is whether to leave the program

@@ -49,6 +49,7 @@ private:
 
     void Inform(const QString& title, const QString& text) override;
     bool Ask(const QString& title, const QString& text) override;
+    bool AskBeforeDestroying(const QString& title, const QString& text) override;
 
     void Show(const QString& menu, const QString& window);
     void CloseWindow(const QString& window);

@@ -17,8 +17,8 @@ target_compile_definitions(orvane_flags INTERFACE
 
 if(ORVANE_SANITIZE)
   target_compile_options(orvane_flags INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -g1 -O0)
-  target_link_options(orvane_flags INTERFACE -fsanitize=address,undefined)
+    -fsanitize=address,undefined,float-cast-overflow -fno-sanitize-recover=all -fno-omit-frame-pointer -g1 -O0)
+  target_link_options(orvane_flags INTERFACE -fsanitize=address,undefined,float-cast-overflow)
 endif()
 
 # orvane_library(NAME LINKS target... ) takes every .cpp, .h and .ui of the current folder.

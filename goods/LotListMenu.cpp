@@ -16,7 +16,7 @@ LotListMenu::LotListMenu(QWidget* parent, std::function<void()> rebuild)
     addSeparator();
     m_showStock = Add(u"mnuShowEStore"_s, u"显示详细库存"_s, [this] {
         // The entry has been toggled by the choice.
-        Set(u"bolShowEStore='"_s + (m_showStock->isChecked() ? u"1"_s : u"0"_s) + u"'"_s);
+        Set(u"bolShowEStore="_s + Quoted(m_showStock->isChecked() ? u"1"_s : u"0"_s));
     });
 }
 
@@ -31,8 +31,7 @@ QAction* LotListMenu::Add(const QString& name, const QString& caption, const std
 
 void LotListMenu::AddOrder(const QString& name, const QString& caption, const QString& order)
 {
-    m_orders.emplace_back(Add(name, caption, [this, order] { Set(u"PRD_Order='"_s + order + u"'"_s); }),
-                          order);
+    m_orders.emplace_back(Add(name, caption, [this, order] { Set(u"PRD_Order="_s + Quoted(order)); }), order);
 }
 
 void LotListMenu::ShowAt(const QPoint& globalPosition)

@@ -46,7 +46,7 @@ void ReprintLotSlip(const QString& prdNo)
         return;
     const RecordSet lot = Gateway().SelectRows(
         u"PRD_List"_s, u"ID,CustName,PRDNo,VerifyID,PRDName,Num,PType,MPercent,PArea,Store,DebitPrice,Memo"_s,
-        u"PRDNo='"_s + prdNo + u"' And bolCheckOut='0'"_s);
+        u"PRDNo="_s + Quoted(prdNo) + u" And bolCheckOut='0'"_s);
     if (lot.Eof())
         return;
     PrintLotSlip({.date = Clock::Now().date(),

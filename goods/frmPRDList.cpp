@@ -230,13 +230,8 @@ void frmPRDList::SaveLot()
 
 bool frmPRDList::FieldsAreComplete()
 {
-    const auto refuse = [](const QString& message, QLineEdit* field) {
-        ShowInfo(message);
-        FocusAndSelect(field);
-        return false;
-    };
     if (Trimmed(ui->txtPID).isEmpty())
-        return refuse(u"请填写编号！"_s, ui->txtPID);
+        return Refuse(ui->txtPID, u"请填写编号！"_s);
     const QString shortcut = Trimmed(ui->txtPRDNo_S);
     if (!shortcut.isEmpty() &&
         !Gateway()
@@ -244,13 +239,13 @@ bool frmPRDList::FieldsAreComplete()
                          u"PRDNo_S="_s + Quoted(shortcut) + u" And bolCheckOut='0' And PRDNo<>"_s +
                              Quoted(Trimmed(ui->txtPRDNo)))
              .Eof())
-        return refuse(u"相同快捷编号已存在！"_s, ui->txtPRDNo_S);
+        return Refuse(ui->txtPRDNo_S, u"相同快捷编号已存在！"_s);
     if (Trimmed(ui->txtNum).isEmpty())
-        return refuse(u"请填写数量！"_s, ui->txtNum);
+        return Refuse(ui->txtNum, u"请填写数量！"_s);
     if (Trimmed(ui->txtStore).isEmpty())
-        return refuse(u"请填写仓位！"_s, ui->txtStore);
+        return Refuse(ui->txtStore, u"请填写仓位！"_s);
     if (Trimmed(ui->txtCustName).isEmpty())
-        return refuse(u"请填写姓名！"_s, ui->txtCustName);
+        return Refuse(ui->txtCustName, u"请填写姓名！"_s);
     if (Trimmed(ui->txtDebitPrice).isEmpty())
         WriteText(ui->txtDebitPrice, u"0"_s);
     return true;
@@ -322,13 +317,14 @@ void frmPRDList::CorrectLot(const Entry& entry, const QDateTime& now)
 QString frmPRDList::TakeLotId(const QDateTime& now)
 {
     const QString today = FormatDate(now.date());
-    const QString counterWhere = u"TID='C01' And CurrDate="_s + Quoted(today);
+    const QString series = Quoted(BillSeries::Lots);
+    const QString counterWhere = u"TID="_s + series + u" And CurrDate="_s + Quoted(today);
     const RecordSet counter = Gateway().SelectRows(u"Count_Bill"_s, u"CurrNumber"_s,
-                                                   u"CurrDate="_s + Quoted(today) + u" And TID='C01'"_s);
+                                                   u"CurrDate="_s + Quoted(today) + u" And TID="_s + series);
     std::int16_t k = 1;
     if (counter.Eof())
         Gateway().InsertRow(u"Count_Bill"_s, u"TID,CurrDate,CurrNumber"_s,
-                            u"'C01',"_s + Quoted(today) + u",0"_s);
+                            series + u',' + Quoted(today) + u",0"_s);
     else
         k = ToInt16(NullToZero(counter.Fields(0).Value) + 1);
     for (;;) {
@@ -357,7 +353,7 @@ bool frmPRDList::BookNewLot(const Entry& entry, const QDateTime& now)
         return false;
     }
     Gateway().UpdateRows(u"Count_Bill"_s, u"CurrNumber=CurrNumber+1"_s,
-                         u"TID='C01' And CurrDate="_s + Quoted(today));
+                         u"TID="_s + Quoted(BillSeries::Lots) + u" And CurrDate="_s + Quoted(today));
     if (entry.debitPrice != u"0") {
         const QStringList advance{
             Quoted(id),          Quoted(entry.prdNo), Quoted(entry.custName), Quoted(entry.prdName),

@@ -130,7 +130,7 @@ void frmDataList::ToolbarDelete()
     const int row = ui->lvDataList->SelectedRow();
     if (!list || row < 0)
         return;
-    if (!list->deleteQuestion.isEmpty() && !AskYesNo(list->deleteQuestion))
+    if (!list->deleteQuestion.isEmpty() && !AskBeforeDestroying(list->deleteQuestion))
         return;
     DeleteRecord(*list, ui->lvDataList->SelectedKey());
     RefreshList();

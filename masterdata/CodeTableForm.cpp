@@ -55,13 +55,11 @@ void CodeTableForm::Save()
         const QString key = m_controls.key->text().trimmed();
         const QString name = m_controls.name->text().trimmed();
         if (key.isEmpty()) {
-            ShowInfo(m_table.keyMissing);
-            FocusAndSelect(m_controls.key);
+            Refuse(m_controls.key, m_table.keyMissing);
             return;
         }
         if (name.isEmpty()) {
-            ShowInfo(m_table.nameMissing);
-            FocusAndSelect(m_controls.name);
+            Refuse(m_controls.name, m_table.nameMissing);
             return;
         }
         if (m_isFound) {

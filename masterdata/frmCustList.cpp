@@ -99,8 +99,7 @@ void frmCustList::Save()
         const QString credit = ui->txtCreditMoney->text().trimmed();
         const QString control = Quoted(ui->chkControl->isChecked() ? u"1"_s : u"0"_s);
         if (name.isEmpty()) {
-            ShowInfo(u"请填写客户名称！"_s);
-            FocusAndSelect(ui->txtCustName);
+            Refuse(ui->txtCustName, u"请填写客户名称！"_s);
             return;
         }
         CheckColumnHolds(credit);

@@ -43,8 +43,7 @@ void frmStore::Save()
         if (store.isEmpty())
             return;
         if (StoreExists(store)) {
-            ShowInfo(u"仓位重复！"_s);
-            FocusAndSelect(ui->txtStore);
+            Refuse(ui->txtStore, u"仓位重复！"_s);
             return;
         }
         Gateway().InsertRow(u"Store"_s, u"Store"_s, Quoted(store));

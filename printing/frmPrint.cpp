@@ -138,7 +138,7 @@ void frmPrint::ChoosePaper(const QWidget& form)
     m_printer.SetPaperSize(code);
     m_printer.SetLandscape(false);
     // The forms are as wide as A4 stands upright and A5 lies, to a pixel.
-    const bool isTurned = m_printer.ScaleWidth() < (form.width() - 1) * TwipsPerPixel &&
+    const bool isTurned = m_printer.ScaleWidth() < static_cast<float>((form.width() - 1) * TwipsPerPixel) &&
                           m_printer.ScaleHeight() > m_printer.ScaleWidth();
     m_printer.SetLandscape(isTurned);
     const QString name = isTurned         ? QString()

@@ -69,7 +69,7 @@ const std::array<const SettlementColumn*, 28>& ShownSettlementColumns()
 
 namespace {
 
-QString ColumnNames()
+QString StoredColumns()
 {
     QStringList names;
     for (const SettlementColumn& column : SettlementColumns())
@@ -107,7 +107,7 @@ QString OfNumber(const QString& checkNo)
 
 void InsertSettlement(const Settlement& settlement)
 {
-    Gateway().InsertRow(u"CheckOut"_s, ColumnNames(), Values(settlement));
+    Gateway().InsertRow(u"CheckOut"_s, StoredColumns(), Values(settlement));
 }
 
 std::optional<Settlement> ReadSettlement(const QString& checkNo)
@@ -128,13 +128,13 @@ std::optional<Settlement> ReadSettlement(const QString& checkNo)
 
 bool ArchiveSettlement(const QString& checkNo)
 {
-    const RecordSet row = Gateway().SelectRows(u"CheckOut"_s, ColumnNames(), OfNumber(checkNo));
+    const RecordSet row = Gateway().SelectRows(u"CheckOut"_s, StoredColumns(), OfNumber(checkNo));
     if (row.Eof())
         return false;
     Settlement settlement;
     int position = 0;
     for (const SettlementColumn& column : SettlementColumns())
         Take(settlement, column, row.Fields(position++));
-    Gateway().InsertRow(u"CheckOut_B"_s, ColumnNames(), Values(settlement));
+    Gateway().InsertRow(u"CheckOut_B"_s, StoredColumns(), Values(settlement));
     return true;
 }

@@ -10,6 +10,7 @@
 #include "core/common/LotStock.h"
 #include "core/common/Messages.h"
 #include "core/forms/Fields.h"
+#include "core/forms/WholeText.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
@@ -18,7 +19,6 @@
 #include "settlement/SheetStyle.h"
 
 #include <QEvent>
-#include <QFont>
 #include <QFontMetricsF>
 #include <QLabel>
 #include <QLineEdit>
@@ -32,6 +32,7 @@ namespace {
 // Characters of the columns that take the typed texts.
 constexpr int LotNumberWidth = 50;
 constexpr int RateWidth = 30;
+constexpr int AmountWidth = 20; // fourteen digits, all that a column holds, grouped and with one decimal
 constexpr int PersonWidth = 60;
 
 const QString RenamingHint = u"双击，或在格子里按F2：修改收费名称"_s;
@@ -43,25 +44,14 @@ void WriteFee(QLineEdit* fee, double amount)
     FormatTextBox(fee, u"1"_s);
 }
 
-/// A caption beside a rate has room for six characters. A longer one is narrowed on the screen, down to
-/// half its width, and told whole by the tool tip where that is not enough; its size, which paper takes
-/// from it, stays.
+/// A caption beside a rate has room for six characters. A longer one is narrowed, and told whole by the tool
+/// tip where that is not enough.
 void ShowCaption(QLabel* label, const QString& caption)
 {
-    constexpr int Step = 5;
-    label->ensurePolished();
-    QFont font = label->font();
-    const auto fits = [&] {
-        return QFontMetricsF(font).horizontalAdvance(caption) <= label->contentsRect().width();
-    };
-    int stretch = QFont::Unstretched;
-    font.setStretch(stretch);
-    while (!fits() && stretch > QFont::Unstretched / 2)
-        font.setStretch(stretch -= Step);
-    if (label->font().stretch() != stretch)
-        label->setFont(font);
-    label->setToolTip(fits() ? RenamingHint : caption + u'\n' + RenamingHint);
-    label->setText(caption);
+    ShowNarrowed(label, caption);
+    const bool isWhole =
+        QFontMetricsF(label->font()).horizontalAdvance(caption) <= label->contentsRect().width();
+    label->setToolTip(isWhole ? RenamingHint : caption + u'\n' + RenamingHint);
 }
 
 } // namespace
@@ -108,9 +98,10 @@ void SettlementForm::WireFees()
     const auto unit = [this, rate](QLineEdit* box, int label, const QString& feeId, QLineEdit* fee) {
         rate(box, label, [this, box, feeId, fee] { ChargeByUnit(feeId, box, fee); });
     };
-    // No limit of characters: grouping lengthens a figure, and a limit would cut it without a word.
     const auto amount = [this, field](QLineEdit* box, int label) {
-        field(box, label).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] { RecalculateSettlement(); });
+        field(box, label).AtMost(AmountWidth).ZeroWhenLeftEmpty().ShownWith(1).OnChange([this] {
+            RecalculateSettlement();
+        });
     };
 
     percent(c.txtPer_LManage, 0, c.txtLManagePrice);

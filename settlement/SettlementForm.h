@@ -24,7 +24,6 @@ protected:
 
     const SettlementControls& Controls() const { return m_controls; }
     bool IsNewStatus() const { return m_bolNewStatus; }
-    const QString& LotId() const { return m_lotId; }
 
     /// Sets the caption of a fee by its label key, "L0".."L9"; any other key has no label.
     void ShowFeeCaption(const QString& key, const QString& caption);

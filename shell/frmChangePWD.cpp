@@ -1,23 +1,13 @@
 #include "shell/frmChangePWD.h"
 
+#include "core/base/Texts.h"
 #include "core/common/Messages.h"
-#include "core/forms/Fields.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/Session.h"
 
 #include "ui_frmChangePWD.h"
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-void Refuse(const QString& message, QLineEdit* box)
-{
-    ShowInfo(message);
-    FocusAndSelect(box);
-}
-
-} // namespace
 
 frmChangePWD::frmChangePWD(QWidget* owner)
     : FormWindow(owner, SlotUse::Takes), ui(std::make_unique<Ui::frmChangePWD>())
@@ -40,23 +30,24 @@ void frmChangePWD::Save()
         const QString newPassword = ui->txtNewPWD->text();
         const QString confirmation = ui->txtConfirmPWD->text();
         if (oldPassword.isEmpty())
-            return Refuse(u"请输入原密码！"_s, ui->txtOldPWD);
+            return void(Refuse(ui->txtOldPWD, u"请输入原密码！"_s));
         if (newPassword.isEmpty())
-            return Refuse(u"请输入新密码！"_s, ui->txtNewPWD);
+            return void(Refuse(ui->txtNewPWD, u"请输入新密码！"_s));
         if (confirmation.isEmpty())
-            return Refuse(u"请确认密码！"_s, ui->txtConfirmPWD);
+            return void(Refuse(ui->txtConfirmPWD, u"请确认密码！"_s));
         if (newPassword != confirmation)
-            return Refuse(u"新密码与确认密码不一致！"_s, ui->txtConfirmPWD);
+            return void(Refuse(ui->txtConfirmPWD, u"新密码与确认密码不一致！"_s));
         const QString user = u"UserID='"_s + Session::CurrentUserID + u"'"_s;
         const RecordSet stored = Gateway().SelectRows(u"User_List"_s, u"UserPWD"_s, user);
         if (stored.Eof())
             return ShowInfo(u"用户信息校验错误，您不可以修改密码！"_s);
         if (stored.Text(0) != oldPassword)
-            return Refuse(u"原密码输入错误!"_s, ui->txtOldPWD);
+            return void(Refuse(ui->txtOldPWD, u"原密码输入错误!"_s));
         Gateway().UpdateRows(u"User_List"_s, u"UserPWD='"_s + newPassword + u"'"_s, user);
         const RecordSet saved = Gateway().SelectRows(u"User_List"_s, u"UserID"_s,
                                                      user + u" And UserPWD='"_s + newPassword + u"'"_s);
-        ShowInfo(saved.Eof() ? u"密码修改失败！请联系管理员！"_s
-                             : u"密码修改成功，新密码将在下次启动时生效！"_s);
+        // A quote in the password can bring the rows of others.
+        const bool isHis = saved.RecordCount() == 1 && IsSameText(saved.Text(0), Session::CurrentUserID);
+        ShowInfo(isHis ? u"密码修改成功，新密码将在下次启动时生效！"_s : u"密码修改失败！请联系管理员！"_s);
     });
 }

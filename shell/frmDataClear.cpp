@@ -71,7 +71,7 @@ void frmDataClear::TickAll(bool ticked)
 
 void frmDataClear::Clear()
 {
-    if (!AskYesNo(u"真的要清空这些数据表吗？注意：清空过后数据将不可恢复！"_s))
+    if (!AskBeforeDestroying(u"真的要清空这些数据表吗？注意：清空过后数据将不可恢复！"_s))
         return;
     GuardedUnlogged([this] {
         ClearTicked();

@@ -132,7 +132,7 @@ void frmMain::FitToScreen()
 
 void frmMain::OnLoad()
 {
-    m_workArea->SetCover(LoadCoverPicture());
+    ToldAfterwards([this] { m_workArea->SetCover(LoadCoverPicture()); });
     m_panels[1]->setText(GetCompName());
     m_panels[1]->setToolTip(m_panels[1]->text()); // where there is no room for all of it
     m_panels[2]->setText(Session::CurrentUserName + u'[' + Session::CurrentUserID + u']');

@@ -3,6 +3,7 @@
 #include "core/base/IniFile.h"
 #include "core/base/Numbers.h"
 #include "core/base/ProgramFiles.h"
+#include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
@@ -71,6 +72,7 @@ frmParameter::frmParameter(QWidget* owner)
     Chain()
         .Field(ui->txtFileName)
         .AtMost(IniValueLength)
+        .TakesQuotes()
         .OnChange([this] { ShowPicture(); })
         .OnDoubleClick(open)
         .OnKey(Qt::Key_F2, open)
@@ -124,9 +126,9 @@ void frmParameter::OnLoad()
     ui->cmbCountID_0->addItems({u"按顿数"_s, u"按件数"_s});
     ui->cmbCountID_1->addItems({u"按顿数"_s, u"按件数"_s});
     LoadDefine();
-    LoadBackground();
-    const QString paperSize =
-        FileExists(ConfigIniPath()) ? ReadIniValue(ConfigIniPath(), u"Define"_s, u"PaperSize"_s) : QString();
+    ToldAfterwards([this] { LoadBackground(); });
+    QString paperSize;
+    ToldAfterwards([&paperSize] { paperSize = ReadIniValue(ConfigIniPath(), u"Define"_s, u"PaperSize"_s); });
     LoadPapers();
     LoadRounds();
     ui->cmbCountID_0->setCurrentIndex(GetFeeCountID(u"F01"_s) == u"0" ? ByWeight : ByPieces);
@@ -275,12 +277,22 @@ bool frmParameter::OffsetsAreNumbers()
 {
     for (const PaperLine& paper : m_papers) {
         for (QLineEdit* offset : {paper.left, paper.top}) {
-            if (IsNumeric(offset->text()))
-                continue;
-            ShowInfo(u"纸张偏移的值设置错误！"_s);
-            ShowPage(PrintingPage);
-            FocusAndSelect(offset);
-            return false;
+            const auto goThere = [this, offset] {
+                ShowPage(PrintingPage);
+                FocusAndSelect(offset);
+            };
+            const auto number = ParseNumber(offset->text());
+            if (!number) {
+                ShowInfo(u"纸张偏移的值设置错误！"_s);
+                goThere();
+                return false;
+            }
+            try {
+                SqlNumber(*number);
+            } catch (const OverflowError&) {
+                goThere();
+                throw;
+            }
         }
     }
     return true;

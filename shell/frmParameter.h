@@ -47,6 +47,7 @@ private:
     void ShowPicture();
 
     void Save();
+    /// Before anything is saved. @throws OverflowError for a number that no column holds.
     bool OffsetsAreNumbers();
     void SaveDefine();
     void SaveBackground();

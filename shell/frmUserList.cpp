@@ -77,17 +77,13 @@ void frmUserList::ClearUser()
 
 bool frmUserList::IsComplete()
 {
-    const auto isMissing = [](QLineEdit* box, const QString& message) {
-        if (!box->text().trimmed().isEmpty())
-            return false;
-        ShowInfo(message);
-        FocusAndSelect(box);
-        return true;
+    const auto isFilled = [this](QLineEdit* box, const QString& message) {
+        return !box->text().trimmed().isEmpty() || Refuse(box, message);
     };
-    return !isMissing(ui->txtUserID, u"请填写用户编号！"_s) &&
-           !isMissing(ui->txtUserName, u"请填写用户姓名！"_s) &&
-           !isMissing(ui->txtUserPWD, u"请填写用户密码！"_s) &&
-           !(ui->chkIP->isChecked() && isMissing(ui->txtUserIP, u"请填写用户IP！"_s));
+    return isFilled(ui->txtUserID, u"请填写用户编号！"_s) &&
+           isFilled(ui->txtUserName, u"请填写用户姓名！"_s) &&
+           isFilled(ui->txtUserPWD, u"请填写用户密码！"_s) &&
+           (!ui->chkIP->isChecked() || isFilled(ui->txtUserIP, u"请填写用户IP！"_s));
 }
 
 void frmUserList::Save()

@@ -30,6 +30,8 @@ constexpr int StatusClosed = 1;
 void frmSale::SaveTicket()
 {
     Guarded(u"保存收银信息"_s, [this] {
+        if (m_isRecalcDue)
+            RecalcTicket();
         const QDateTime now = Clock::Now();
         Ticket ticket = ReadTicket(now);
         if (!IsComplete(ticket) || !PassesCreditTest(ticket))
@@ -188,11 +190,4 @@ void frmSale::EmptyTicket()
 bool frmSale::ClosesBatch() const
 {
     return ui->cmbCheckStatus->currentIndex() == StatusClosed;
-}
-
-bool frmSale::Refuse(QWidget* field, const QString& why)
-{
-    ShowInfo(why);
-    FocusAndSelect(field);
-    return false;
 }

@@ -234,6 +234,7 @@ void frmSale::CheckSalesman()
 
 void frmSale::RecalcTicket()
 {
+    m_isRecalcDue = true; // should it break off here
     const double num = TextToDouble(ui->txtNum->text());
     const double packAmount = num * TextToDouble(ui->txtPerPack->text());
     const double foregiftAmount = num * TextToDouble(ui->txtPerForegift->text());
@@ -246,6 +247,7 @@ void frmSale::RecalcTicket()
     ShowMoney(ui->txtAmount, totals.amount);
     ShowMoney(ui->txtTotalAmount, totals.total);
     ShowThisBatch(FormatMoney(totals.total + m_batchTotal));
+    m_isRecalcDue = false;
 }
 
 void frmSale::ShowThisBatch(const QString& caption)

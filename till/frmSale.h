@@ -62,12 +62,12 @@ private:
     /// (EmptyOpenBoxes).
     void EmptyTicket();
     bool ClosesBatch() const;
-    bool Refuse(QWidget* field, const QString& why);
 
     std::unique_ptr<Ui::frmSale> ui;
     QString m_lotId; ///< the lot last looked up; it outlives the save of its ticket
     QString m_lotStore;
-    double m_batchTotal = 0; ///< yuan of the open batch's saved tickets
-    int m_batchCount = 0;    ///< how many they are
+    double m_batchTotal = 0;    ///< yuan of the open batch's saved tickets
+    int m_batchCount = 0;       ///< how many they are
+    bool m_isRecalcDue = false; ///< the totals are those of other figures: working them out failed
     QString m_printStyle;
 };

@@ -3,6 +3,7 @@
 #include "core/base/RunTimeError.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSaveFile>
 #include <QStringConverter>
 #include <QStringList>
@@ -28,12 +29,32 @@ struct IniText {
 
 constexpr QByteArrayView Utf8Mark("\xEF\xBB\xBF");
 
+/// The refusal in the user's language, for the reasons that he can do something about.
+QString Reason(const QFileDevice& file, bool isAllowed, const QString& refusal)
+{
+    if (!isAllowed)
+        return refusal;
+    return file.error() == QFileDevice::ResourceError ? u"磁盘已满"_s : file.errorString();
+}
+
+RunTimeError FileError(const QString& what, const QString& path, const QString& reason)
+{
+    return RunTimeError(u"%1：%2（%3）"_s.arg(what, path, reason).remove(u'\''));
+}
+
+/// None where no file stands. A file that is there and cannot be read is not an empty one: the values of
+/// the latter would stand for the former's, and a write would put one line in the place of all.
 std::optional<IniText> Load(const QString& path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    const QFileInfo info(path);
+    if (!info.isFile())
         return std::nullopt;
-    QByteArray bytes = file.readAll();
+    QFile file(path);
+    QByteArray bytes;
+    if (file.open(QIODevice::ReadOnly))
+        bytes = file.readAll();
+    if (file.error() != QFileDevice::NoError)
+        throw FileError(u"无法读取文件"_s, path, Reason(file, info.isReadable(), u"没有读取权限"_s));
     IniText ini;
     if (bytes.startsWith(Utf8Mark)) {
         ini.encoding = Encoding::Utf8WithMark;
@@ -58,6 +79,13 @@ std::optional<IniText> Load(const QString& path)
     return ini;
 }
 
+bool IsWritable(const QString& path)
+{
+    const QFileInfo info(path);
+    return info.exists() ? info.isWritable()
+                         : !QFileInfo::exists(info.path()) || QFileInfo(info.path()).isWritable();
+}
+
 void Save(const QString& path, const IniText& ini)
 {
     const QString text = ini.lines.join(ini.lineEnd) + ini.lineEnd;
@@ -74,7 +102,7 @@ void Save(const QString& path, const IniText& ini)
     QSaveFile file(path);
     file.setDirectWriteFallback(true);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-        throw RunTimeError(u"无法写入文件：%1（%2）"_s.arg(path, file.errorString()).remove(u'\''));
+        throw FileError(u"无法写入文件"_s, path, Reason(file, IsWritable(path), u"没有写入权限"_s));
 }
 
 /// The name between the brackets of a section line.
@@ -161,4 +189,21 @@ void WriteIniValue(const QString& file, const QString& section, const QString& k
         ini.lines << u'[' + section + u']' << line;
     }
     Save(file, ini);
+}
+
+void KeepOldIni(const QString& file)
+{
+    if (!QFileInfo(file).isFile())
+        return;
+    const QString kept = file + u".old"_s;
+    QFile old(file);
+    QSaveFile copy(kept);
+    const auto bytes = old.open(QIODevice::ReadOnly) ? old.readAll() : QByteArray();
+    if (old.error() != QFileDevice::NoError)
+        throw FileError(u"无法读取文件"_s, file,
+                        Reason(old, QFileInfo(file).isReadable(), u"没有读取权限"_s));
+    // Before the first byte: it may hold a password.
+    if (!copy.open(QIODevice::WriteOnly) || !copy.setPermissions(old.permissions()) ||
+        copy.write(bytes) != bytes.size() || !copy.commit())
+        throw FileError(u"无法写入文件"_s, kept, Reason(copy, IsWritable(kept), u"没有写入权限"_s));
 }

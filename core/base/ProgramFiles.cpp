@@ -11,7 +11,7 @@ QString programDirectory;
 /// One step down from a folder, ignoring case where the exact name is absent.
 QString Entry(const QString& folder, const QString& name)
 {
-    const QString exact = folder + u'/' + name;
+    QString exact = folder + u'/' + name;
     if (QFileInfo::exists(exact))
         return exact;
     const QStringList entries =

@@ -14,6 +14,8 @@ public:
 
     /// The words for the user. Our own carry no quote, so that the error log can store them.
     const QString& Description() const { return m_description; }
+    /// What the user should do, shown under the description; empty where the description says all.
+    virtual QString Advice() const { return {}; }
     const char* what() const noexcept override { return m_utf8.constData(); }
 
 private:

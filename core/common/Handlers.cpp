@@ -2,6 +2,7 @@
 
 #include "core/base/RunTimeError.h"
 #include "core/common/Messages.h"
+#include "core/common/Waiting.h"
 
 #include <QCoreApplication>
 #include <QLineEdit>
@@ -20,13 +21,16 @@ std::vector<std::function<void()>> actionsAfterwards;
 
 int underWay = 0; // handlers on the stack, those that wait for a nested loop included
 std::vector<QPointer<QObject>> closedWindows;
+std::vector<std::function<void()>> actionsWhenIdle;
 
-void DestroyClosedWindows()
+void Idle()
 {
     for (const QPointer<QObject>& window : std::exchange(closedWindows, {})) {
         if (window)
             window->deleteLater();
     }
+    for (auto& action : std::exchange(actionsWhenIdle, {}))
+        WhenIdle(std::move(action));
 }
 
 void ShowFailure(const std::exception_ptr& failure)
@@ -34,15 +38,15 @@ void ShowFailure(const std::exception_ptr& failure)
     try {
         std::rethrow_exception(failure);
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
     } catch (const std::exception& error) {
-        ShowErrorMessage(u"程序错误：%1"_s.arg(QString::fromUtf8(error.what())));
+        ShowInfo(u"程序错误：%1"_s.arg(QString::fromUtf8(error.what())));
     }
 }
 
 } // namespace
 
-void RunHandler(const std::function<void()>& handler)
+bool RunHandler(const std::function<void()>& handler)
 {
     ++depth;
     ++underWay;
@@ -53,18 +57,39 @@ void RunHandler(const std::function<void()>& handler)
         failure = std::current_exception();
     }
     --depth;
+    bool isGood = !failure;
     if (depth > 0) {
         if (failure && !keptFailure)
             keptFailure = failure;
     } else {
         const std::exception_ptr kept = std::exchange(keptFailure, nullptr);
-        if (failure || kept)
+        isGood = isGood && !kept;
+        if (!isGood)
             ShowFailure(failure ? failure : kept);
         for (const auto& action : std::exchange(actionsAfterwards, {}))
             RunHandler(action);
     }
     if (--underWay == 0)
-        DestroyClosedWindows();
+        Idle();
+    return isGood;
+}
+
+void WhenIdle(std::function<void()> action)
+{
+    if (underWay > 0) {
+        actionsWhenIdle.push_back(std::move(action));
+        return;
+    }
+    // By the time the event comes, another handler's box may stand open.
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(),
+        [action = std::move(action)] {
+            if (underWay > 0)
+                actionsWhenIdle.push_back(action);
+            else
+                action();
+        },
+        Qt::QueuedConnection);
 }
 
 void DestroyWhenIdle(QObject* window)
@@ -81,8 +106,18 @@ void AfterHandler(std::function<void()> action)
         actionsAfterwards.push_back(std::move(action));
     else
         QMetaObject::invokeMethod(
-            QCoreApplication::instance(), [action = std::move(action)] { RunHandler(action); },
+            QCoreApplication::instance(),
+            [action = std::move(action)] { AfterWait([action] { RunHandler(action); }); },
             Qt::QueuedConnection);
+}
+
+void ToldAfterwards(const std::function<void()>& action)
+{
+    try {
+        action();
+    } catch (...) {
+        AfterHandler([failure = std::current_exception()] { std::rethrow_exception(failure); });
+    }
 }
 
 void WriteText(QLineEdit* box, const QString& text)

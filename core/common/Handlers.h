@@ -11,8 +11,12 @@ class QString;
 /// What every event of a window runs through, so that no failure crosses the toolkit's event loop: an
 /// exception out of `handler` shows its description in one box, ends the handler, and the program goes
 /// on. Inside another handler (a Change event set off by that handler's own write) the failure is kept
-/// instead, and WriteText passes it on to the routine that wrote.
-void RunHandler(const std::function<void()>& handler);
+/// instead, and WriteText passes it on to the routine that wrote. True when nothing failed.
+bool RunHandler(const std::function<void()>& handler);
+
+/// Runs `action` from the event loop once no handler is under way any more, nested loops of boxes
+/// included: what ends the program must not come while a box is being read.
+void WhenIdle(std::function<void()> action);
 
 /// Destroys a closed window once no handler is under way any more: the one that waits for an answer to
 /// its box, or for a modal window, may be the window's own.
@@ -26,6 +30,9 @@ void WriteText(QLineEdit* box, const QString& text);
 /// save has to tell must not stand between its statements, nor behind a box of the save itself. Where no
 /// handler is under way, the event loop runs it next.
 void AfterHandler(std::function<void()> action);
+
+/// Runs `action`. A failure does not end the handler under way; it is shown after it.
+void ToldAfterwards(const std::function<void()>& action);
 
 /// Stands while a modal window or box runs an event loop of its own inside a handler: events handled
 /// there begin afresh and show their own failures, and one that waits outside is none of theirs.

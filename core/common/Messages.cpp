@@ -1,14 +1,21 @@
 #include "core/common/Messages.h"
 
+#include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -16,17 +23,41 @@ const QString SystemTitle = u"系统提示"_s;
 
 namespace {
 
+/// What opens while a key is down, the Enter of a save for instance, is not answered by it: only by a
+/// key that is pressed anew.
+class HeldKeysIgnored : public QObject {
+public:
+    explicit HeldKeysIgnored(QWidget& box)
+    {
+        box.installEventFilter(this);
+        for (QWidget* control : box.findChildren<QWidget*>())
+            control->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        return (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat()) ||
+               QObject::eventFilter(watched, event);
+    }
+};
+
 /// Message boxes on the active window, which gets the keyboard back afterwards.
 class BoxPresenter : public MessagePresenter {
 public:
     void Inform(const QString& title, const QString& text) override
     {
-        Run(QMessageBox::Information, title, text, QMessageBox::Ok);
+        Run(u'i', title, text, QMessageBox::Ok, QMessageBox::Ok);
     }
 
     bool Ask(const QString& title, const QString& text) override
     {
-        return Run(QMessageBox::Question, title, text, QMessageBox::Yes | QMessageBox::No) ==
+        return Run(u'?', title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::Yes) ==
+               QMessageBox::Yes;
+    }
+
+    bool AskBeforeDestroying(const QString& title, const QString& text) override
+    {
+        return Run(u'!', title, text, QMessageBox::Yes | QMessageBox::No, QMessageBox::No) ==
                QMessageBox::Yes;
     }
 
@@ -71,21 +102,66 @@ private:
             dialog.selectFile(start.fileName());
     }
 
-    static int Run(QMessageBox::Icon icon, const QString& title, const QString& text,
-                   QMessageBox::StandardButtons buttons)
+    static int Run(QChar sign, const QString& title, const QString& text,
+                   QMessageBox::StandardButtons buttons, QMessageBox::StandardButton usual)
     {
         const NestedLoop loop;
         const QPointer<QWidget> below = QApplication::activeWindow();
-        QMessageBox box(icon, title, text, buttons, below);
+        QMessageBox box(QMessageBox::NoIcon, title, text, buttons, below);
         box.setObjectName(u"msgBox"_s);
         box.setTextFormat(Qt::PlainText);
+        box.setIconPixmap(Sign(sign));
+        box.setDefaultButton(usual);
+        GiveRoom(box);
         Caption(box, QMessageBox::Ok, u"确定(&O)"_s);
         Caption(box, QMessageBox::Yes, u"是(&Y)"_s);
         Caption(box, QMessageBox::No, u"否(&N)"_s);
+        const HeldKeysIgnored fresh(box);
         const int answer = box.exec();
         if (below)
             below->activateWindow();
         return answer;
+    }
+
+    /// A disc with the sign, in the colours of the toolbar; one that warns is red. The style's own icons
+    /// are coarse beside it.
+    static QPixmap Sign(QChar sign)
+    {
+        constexpr int side = 36; // pixels
+        const qreal density = qApp->devicePixelRatio();
+        QPixmap picture(QSize(side, side) * density);
+        picture.setDevicePixelRatio(density);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(sign == u'!' ? QColor(0xb3, 0x26, 0x1e) : QColor(0x33, 0x44, 0x55));
+        painter.drawEllipse(1, 1, side - 2, side - 2);
+        QFont font = QApplication::font();
+        font.setPixelSize(24);
+        font.setBold(true);
+        painter.setFont(font);
+        painter.setPen(Qt::white);
+        painter.drawText(QRect(0, 0, side, side), Qt::AlignCenter, sign);
+        return picture;
+    }
+
+    /// As wide as the text needs, up to two thirds of the screen; a longer text has lines of one length,
+    /// so that no last character stands alone.
+    static void GiveRoom(QMessageBox& box)
+    {
+        auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+        if (!label)
+            return;
+        label->ensurePolished();
+        int needed = 0;
+        for (const QString& line : box.text().split(u'\n'))
+            needed = std::max(needed, label->fontMetrics().horizontalAdvance(line));
+        const int most = QGuiApplication::primaryScreen()->availableSize().width() * 2 / 3 - 100;
+        const int lines = (needed + most - 1) / std::max(1, most);
+        // Characters break where they end, so a line is seldom full.
+        const int slack = lines > 1 ? label->fontMetrics().averageCharWidth() * 3 : 4;
+        label->setMinimumWidth(std::min(most, needed / std::max(1, lines) + slack));
     }
 
     static void Caption(QMessageBox& box, QMessageBox::StandardButton button, const QString& caption)
@@ -120,12 +196,18 @@ bool AskYesNo(const QString& text, const QString& title)
     return Presenter().Ask(title, text);
 }
 
+bool AskBeforeDestroying(const QString& text, const QString& title)
+{
+    return Presenter().AskBeforeDestroying(title, text);
+}
+
 QString AskFile(const FileQuestion& question)
 {
     return Presenter().ChooseFile(question);
 }
 
-void ShowErrorMessage(const QString& description)
+void ShowErrorMessage(const RunTimeError& error)
 {
-    ShowInfo(description);
+    const QString advice = error.Advice();
+    ShowInfo(advice.isEmpty() ? error.Description() : error.Description() + u"\r\n"_s + advice);
 }

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class RunTimeError;
+
 /// The title of every box that names no other.
 extern const QString SystemTitle;
 
@@ -11,8 +13,13 @@ void ShowInfo(const QString& text, const QString& title = SystemTitle);
 /// A question box with 是 and 否. True for 是; closing the box in any other way is 否.
 bool AskYesNo(const QString& text, const QString& title = SystemTitle);
 
-/// An information box with the description of an error, as the driver or the run time words it.
-void ShowErrorMessage(const QString& description);
+/// The same before something is destroyed for good: 否 is the default, so that a nervous Enter destroys
+/// nothing.
+bool AskBeforeDestroying(const QString& text, const QString& title = SystemTitle);
+
+/// An information box with the description of an error, as the driver or the run time words it, and under
+/// it what the user should do, where the error says more than that.
+void ShowErrorMessage(const RunTimeError& error);
 
 /// What a file dialog asks for.
 struct FileQuestion {
@@ -36,6 +43,7 @@ public:
 
     virtual void Inform(const QString& title, const QString& text) = 0;
     virtual bool Ask(const QString& title, const QString& text) = 0;
+    virtual bool AskBeforeDestroying(const QString& title, const QString& text) = 0;
     /// Without a presenter of files none is chosen.
     virtual QString ChooseFile(const FileQuestion& /*question*/) { return {}; }
 };

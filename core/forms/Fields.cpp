@@ -9,13 +9,20 @@
 void FocusAndSelect(QWidget* field)
 {
     field->setFocus(Qt::OtherFocusReason);
-    if (auto* box = qobject_cast<QLineEdit*>(field))
+    auto* box = qobject_cast<QLineEdit*>(field);
+    if (!box)
+        return;
+    if (box->isReadOnly())
+        box->setSelection(static_cast<int>(box->text().size()),
+                          -static_cast<int>(box->text().size())); // shows its beginning
+    else
         box->selectAll();
 }
 
 void Lock(QLineEdit* field)
 {
     field->setReadOnly(true);
+    field->home(false);
     // The style sheet asks for the property, and looks again only when told.
     field->style()->unpolish(field);
     field->style()->polish(field);

@@ -37,7 +37,8 @@ protected:
     KeyChain& Chain() { return m_chain; }
 
     /// A button's action. A label button gets its key: 确定 and 保存 Alt+S, 关闭 and 取消 Alt+C, unless
-    /// another is given.
+    /// another is given. A click leaves no field; the key first leaves the one with the focus as Enter
+    /// would, unless the button is cmdCancel, and presses nothing when that was refused.
     void OnPress(LabelButton* button, std::function<void()> action, const QKeySequence& key = {});
     /// A command button takes the focus and the same keys; its tool tip tells which.
     void OnPress(QAbstractButton* button, std::function<void()> action, const QKeySequence& key = {});
@@ -49,6 +50,14 @@ protected:
     /// The same without a row in ErrInfo, for the routines that have no label.
     void GuardedUnlogged(const std::function<void()>& routine);
 
+    /// Says why a field is refused and puts the cursor into it, its text selected. Always false, so that a
+    /// check reads `return Refuse(...)`.
+    bool Refuse(QWidget* field, const QString& why);
+
+    /// Closes this window, which has done its work, and shows another once the handler under way is over:
+    /// a prompt that comes back after each bill. It is not shown when this one stays open.
+    void CloseThenShow(const QString& name);
+
     /// The text boxes of the form in their order, without those inside other controls.
     QList<QLineEdit*> TextBoxes() const;
 
@@ -56,6 +65,10 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    /// Keeps the window, its upper left corner first, on its screen.
+    void StayOnScreen();
+    void RunByKey(const QWidget* button, const std::function<void()>& press);
+
     SlotUse m_slot;
     KeyChain m_chain;
     HoverLines m_hoverLines{};

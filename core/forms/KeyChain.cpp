@@ -4,7 +4,9 @@
 #include "core/common/Formats.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
+#include "core/common/Waiting.h"
 #include "core/forms/Fields.h"
+#include "core/forms/TextLine.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -12,7 +14,6 @@
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QToolTip>
 
 #include <algorithm>
 
@@ -31,7 +32,7 @@ bool IsFirst(const QModelIndex& row)
 FieldRule& FieldRule::Numeric(const QString& message)
 {
     m_numericMessage = message;
-    return *this;
+    return TakesQuotes(); // they are refused
 }
 
 FieldRule& FieldRule::KeptWhenRefused()
@@ -55,12 +56,22 @@ FieldRule& FieldRule::ShownWith(int decimals)
 FieldRule& FieldRule::AtMost(int characters)
 {
     if (auto* box = qobject_cast<QLineEdit*>(m_control))
-        box->setMaxLength(characters);
+        TextLine::Of(box).SetLimit(characters);
+    else if (const auto* combo = qobject_cast<QComboBox*>(m_control); combo && combo->lineEdit())
+        TextLine::Of(combo->lineEdit()).SetLimit(characters);
+    return *this;
+}
+
+FieldRule& FieldRule::TakesQuotes()
+{
+    if (auto* box = qobject_cast<QLineEdit*>(m_control))
+        TextLine::Of(box).SetQuotesHarmless();
     return *this;
 }
 
 FieldRule& FieldRule::OnChange(Action action)
 {
+    Q_ASSERT(!qobject_cast<QAbstractItemView*>(m_control));
     m_onChange = std::move(action);
     return *this;
 }
@@ -119,6 +130,12 @@ FieldRule& FieldRule::OutsideChain()
     return *this;
 }
 
+bool FieldRule::IsHeldBack() const
+{
+    const auto* box = qobject_cast<const QLineEdit*>(m_control);
+    return m_movesOnWhenFilled && box && box->text().trimmed().isEmpty();
+}
+
 KeyChain::KeyChain(QWidget* form) : QObject(form), m_form(form)
 {
     connect(qApp, &QApplication::focusChanged, this, &KeyChain::FocusMoved);
@@ -134,24 +151,34 @@ FieldRule& KeyChain::Append(QWidget* control)
 FieldRule& KeyChain::Field(QLineEdit* box)
 {
     FieldRule& rule = Append(box);
-    connect(box, &QLineEdit::textChanged, this, [this, &rule](const QString& text) {
+    connect(&TextLine::Of(box), &TextLine::Changed, this, [this, &rule](const QString& text) {
         RunHandler([this, &rule, text] { TextChanged(rule, text); });
-    });
-    connect(box, &QLineEdit::inputRejected, this, [box] {
-        QToolTip::showText(box->mapToGlobal(QPoint(0, box->height())), u"最多%1个字"_s.arg(box->maxLength()),
-                           box);
     });
     return rule;
 }
 
 FieldRule& KeyChain::Combo(QComboBox* combo)
 {
-    return Append(combo);
+    FieldRule& rule = Append(combo);
+    const auto changed = [&rule] {
+        if (rule.m_onChange)
+            RunHandler(rule.m_onChange);
+    };
+    if (combo->isEditable())
+        connect(combo, &QComboBox::currentTextChanged, this, changed);
+    else
+        connect(combo, &QComboBox::currentIndexChanged, this, changed);
+    return rule;
 }
 
 FieldRule& KeyChain::Check(QAbstractButton* check)
 {
-    return Append(check);
+    FieldRule& rule = Append(check);
+    connect(check, &QAbstractButton::toggled, this, [&rule] {
+        if (rule.m_onChange)
+            RunHandler(rule.m_onChange);
+    });
+    return rule;
 }
 
 FieldRule& KeyChain::List(QAbstractItemView* list)
@@ -207,7 +234,8 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
     if ((key.modifiers() & ~Qt::KeypadModifier) != Qt::NoModifier)
         return false;
     if (const auto own = rule.m_onKey.find(key.key()); own != rule.m_onKey.end()) {
-        RunHandler(own->second);
+        if (!key.isAutoRepeat())
+            RunHandler(own->second);
         return true;
     }
     const auto* combo = qobject_cast<QComboBox*>(rule.m_control);
@@ -215,9 +243,11 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        // An Enter held down walks on through the fields, but does not save a second time.
-        if (!rule.m_onEnter || !key.isAutoRepeat())
+        if (!rule.m_onEnter)
             RunHandler([this, &rule] { MoveOn(rule, true); });
+        else if (!key.isAutoRepeat() &&
+                 !rule.IsHeldBack()) // held down it walks on through the fields, but does not save
+            LeaveThen(&rule, rule.m_onEnter);
         return true;
     case Qt::Key_Down:
         if (combo || list)
@@ -236,20 +266,37 @@ bool KeyChain::HandleKey(FieldRule& rule, const QKeyEvent& key)
 
 void KeyChain::MoveOn(FieldRule& rule, bool byEnter)
 {
-    const auto* box = qobject_cast<QLineEdit*>(rule.m_control);
-    if (rule.m_movesOnWhenFilled && box && box->text().trimmed().isEmpty())
+    if (rule.IsHeldBack())
         return;
     if (rule.m_beforeMovingOn)
         rule.m_beforeMovingOn();
-    if (byEnter && rule.m_onEnter) {
-        rule.m_onEnter();
-        return;
-    }
     const FieldRule* next = Neighbour(rule, 1);
     if (byEnter && rule.m_enterTo)
         FocusAndSelect(rule.m_enterTo);
     else if (next && !rule.m_outsideChain)
         FocusAndSelect(next->m_control);
+}
+
+void KeyChain::LeaveThen(const std::function<void()>& action)
+{
+    LeaveThen(RuleOf(QApplication::focusWidget()), action);
+}
+
+void KeyChain::LeaveThen(FieldRule* rule, const std::function<void()>& action)
+{
+    const int refusals = m_refusals;
+    const bool isLeft = !rule || RunHandler([this, rule] {
+        if (rule->m_beforeMovingOn && !rule->IsHeldBack())
+            rule->m_beforeMovingOn();
+        Left(*rule);
+    });
+    if (!isLeft || m_refusals != refusals)
+        return;
+    const QPointer<KeyChain> self = this;
+    m_left = rule;
+    RunHandler(action);
+    if (self)
+        m_left = nullptr;
 }
 
 void KeyChain::MoveBack(FieldRule& rule)
@@ -287,8 +334,10 @@ void KeyChain::FocusMoved(QWidget* from, QWidget* to)
 {
     if (m_suspended > 0 || m_returningTo || from == to || !IsInForm(from) || !IsInForm(to))
         return;
-    if (FieldRule* rule = RuleOf(from))
+    FieldRule* rule = RuleOf(from);
+    if (rule && rule != m_left)
         RunHandler([this, rule] { Left(*rule); });
+    m_left = nullptr;
 }
 
 void KeyChain::Left(FieldRule& rule)
@@ -303,6 +352,16 @@ void KeyChain::Left(FieldRule& rule)
         rule.m_onLeave();
 }
 
+QList<QLineEdit*> KeyChain::NumericFields() const
+{
+    QList<QLineEdit*> boxes;
+    for (const auto& rule : m_rules) {
+        if (rule->m_numericMessage)
+            boxes << static_cast<QLineEdit*>(rule->m_control);
+    }
+    return boxes;
+}
+
 void KeyChain::FocusFirst()
 {
     for (const auto& rule : m_rules) {
@@ -315,13 +374,15 @@ void KeyChain::FocusFirst()
 
 void KeyChain::ReturnTo(QWidget* control)
 {
+    ++m_refusals;
     m_returningTo = control;
+    const auto giveBack = [chain = QPointer<KeyChain>(this)] {
+        if (!chain)
+            return;
+        if (chain->m_returningTo)
+            FocusAndSelect(chain->m_returningTo);
+        chain->m_returningTo = nullptr;
+    };
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (m_returningTo)
-                FocusAndSelect(m_returningTo);
-            m_returningTo = nullptr;
-        },
-        Qt::QueuedConnection);
+        this, [giveBack] { AfterWait(giveBack); }, Qt::QueuedConnection);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -35,10 +36,14 @@ public:
     FieldRule& ZeroWhenLeftEmpty();
     /// Left, the number is shown with so many decimals, grouped.
     FieldRule& ShownWith(int decimals);
-    /// The field takes so many characters at the most, and says so when more are typed or pasted.
+    /// The field, or a combo box that is typed in, takes so many characters at the most, and says so when
+    /// more are typed or pasted. What the program writes is not cut: grouping makes a number longer.
     FieldRule& AtMost(int characters);
+    /// No hint at a ' or \ that is typed: the text goes into no statement.
+    FieldRule& TakesQuotes();
 
-    /// After each real change of the text, by typing or from code. With Numeric: only for a number.
+    /// After each real change of the text, by typing or from code. With Numeric: only for a number. In a
+    /// combo box after another choice, of a check box or a radio button after it turned; not for lists.
     FieldRule& OnChange(Action action);
     /// When the focus has moved on to another control of the window.
     FieldRule& OnLeave(Action action);
@@ -46,7 +51,7 @@ public:
     /// A key of the control's own, F2 for instance.
     FieldRule& OnKey(Qt::Key key, Action action);
 
-    /// Enter does this instead of moving on.
+    /// Enter leaves the control and does this instead of moving on.
     FieldRule& OnEnter(Action action);
     /// Enter and Down do this, then move on.
     FieldRule& BeforeMovingOn(Action action);
@@ -61,6 +66,9 @@ public:
 
 private:
     friend class KeyChain;
+
+    /// It moves on when filled, and is empty.
+    bool IsHeldBack() const;
 
     QWidget* m_control;
     std::optional<QString> m_numericMessage;
@@ -105,6 +113,14 @@ public:
     /// selected. Until then nothing counts as left.
     void ReturnTo(QWidget* control);
 
+    /// For a key that saves: does first what Enter does to the control with the focus, as if it were left
+    /// (lookup, test, format), then `action`, unless the control refused by asking the focus back or by a
+    /// failure. Moving the focus on, as the action may, does not leave the control a second time.
+    void LeaveThen(const std::function<void()>& action);
+
+    /// The boxes with a numeric test, in their order.
+    QList<QLineEdit*> NumericFields() const;
+
     /// Puts the focus on the first control of the chain.
     void FocusFirst();
 
@@ -127,6 +143,7 @@ private:
     FieldRule* RuleOf(const QObject* control) const;
     FieldRule* Neighbour(const FieldRule& rule, int step) const;
     bool HandleKey(FieldRule& rule, const QKeyEvent& key);
+    void LeaveThen(FieldRule* rule, const std::function<void()>& action);
     void MoveOn(FieldRule& rule, bool byEnter);
     void MoveBack(FieldRule& rule);
     void TextChanged(FieldRule& rule, const QString& text);
@@ -138,4 +155,6 @@ private:
     std::vector<std::unique_ptr<FieldRule>> m_rules;
     QPointer<QWidget> m_returningTo;
     int m_suspended = 0;
+    int m_refusals = 0;                ///< how often ReturnTo was called
+    const FieldRule* m_left = nullptr; ///< left by a key whose action is under way
 };

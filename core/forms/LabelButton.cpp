@@ -26,7 +26,7 @@ void LabelButton::SetKey(const QKeySequence& key)
     auto* shortcut = new QShortcut(key, window());
     connect(shortcut, &QShortcut::activated, this, [this] {
         if (isEnabled() && isVisible())
-            emit Pressed();
+            emit PressedByKey();
     });
     setToolTip(key.toString(QKeySequence::NativeText));
     updateGeometry();

@@ -20,6 +20,8 @@ public:
 
 signals:
     void Pressed();
+    /// Pressed by its key.
+    void PressedByKey();
     /// The mouse came over the label (true) or left it.
     void Hovered(bool over);
 

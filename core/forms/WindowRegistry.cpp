@@ -2,14 +2,15 @@
 
 #include "core/common/Handlers.h"
 
-#include <QApplication>
 #include <QEventLoop>
 #include <QPointer>
 #include <QWidget>
 
-void WindowRegistry::Register(const QString& name, Factory factory, bool loadsBills)
+#include <utility>
+
+void WindowRegistry::Register(const QString& name, const Factory& factory, bool loadsBills)
 {
-    m_factories.insert(name, std::move(factory));
+    m_factories.insert(name, factory);
     if (loadsBills)
         m_billWindows.insert(name);
     else
@@ -83,6 +84,13 @@ void WindowRegistry::ShowModal(const QString& name, QWidget* owner)
         below->activateWindow();
 }
 
+void WindowRegistry::CloseThenShow(Form* finished, const QString& name, QWidget* owner)
+{
+    if (!finished->Widget()->close())
+        return;
+    AfterHandler([this, name, below = QPointer<QWidget>(owner)] { Show(name, below); });
+}
+
 void WindowRegistry::Unloaded(Form* form)
 {
     m_loaded.removeIf([form](const auto& entry) { return entry.value() == form; });
@@ -92,14 +100,11 @@ void WindowRegistry::Unloaded(Form* form)
     }
     if (!m_loaded.isEmpty() || !m_allUnloaded)
         return;
-    // One window may close just before the next one is loaded: ask again from the event loop.
-    QMetaObject::invokeMethod(
-        qApp,
-        [this] {
-            if (m_loaded.isEmpty() && m_allUnloaded)
-                m_allUnloaded();
-        },
-        Qt::QueuedConnection);
+    // One window may close just before the next one is loaded, or before a box says why: ask again then.
+    WhenIdle([this] {
+        if (m_loaded.isEmpty() && m_allUnloaded)
+            m_allUnloaded();
+    });
 }
 
 void WindowRegistry::DropAll()

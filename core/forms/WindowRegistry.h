@@ -18,7 +18,7 @@ public:
 
     /// Makes a window known. Its object name becomes the name. `loadsBills` where it has a LoadBill of its
     /// own.
-    void Register(const QString& name, Factory factory, bool loadsBills = false);
+    void Register(const QString& name, const Factory& factory, bool loadsBills = false);
     bool Knows(const QString& name) const { return m_factories.contains(name); }
     /// True for a window that can be asked for a saved bill.
     bool LoadsBills(const QString& name) const { return m_billWindows.contains(name); }
@@ -39,10 +39,15 @@ public:
     /// Load, show it over everything else, and return when it is closed. The owner gets the keyboard back.
     void ShowModal(const QString& name, QWidget* owner);
 
+    /// Closes a window that has done its work; when the handler under way is over, shows the other one. Not
+    /// shown when the first refused to close.
+    void CloseThenShow(Form* finished, const QString& name, QWidget* owner);
+
     /// A window tells that it has closed.
     void Unloaded(Form* form);
 
-    /// Called from the event loop once no window is loaded any more: the process has nothing left to do.
+    /// Called from the event loop once no window is loaded and no handler under way any more: the process has
+    /// nothing left to do.
     void SetAllUnloadedHandler(std::function<void()> handler) { m_allUnloaded = std::move(handler); }
 
     /// Destroys every loaded window without its closing handler. For tests.

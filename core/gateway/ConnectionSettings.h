@@ -19,4 +19,5 @@ ConnectionSettings ParseConnectionText(const QString& text);
 
 /// What a connection ini says: the connection text `ConnStr` of the section that `DBType`/`Drive`
 /// names decides alone where it is not empty; otherwise the keys of `DataProp`.
+/// @throws RunTimeError when the file is there and cannot be read
 ConnectionSettings ReadConnectionSettings(const QString& iniPath);

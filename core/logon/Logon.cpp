@@ -1,12 +1,14 @@
 #include "core/logon/Logon.h"
 
 #include "core/base/RunTimeError.h"
+#include "core/base/Texts.h"
 #include "core/common/Lookups.h"
 #include "core/common/Messages.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
 #include "core/session/LocalAddress.h"
 #include "core/session/Session.h"
+#include "core/session/SessionControl.h"
 
 #include <QWidget>
 
@@ -19,8 +21,11 @@ namespace {
 
 bool CheckUser(const QString& name, const QString& password, UnknownName unknownName)
 {
-    const RecordSet user = Gateway().SelectRows(u"User_List"_s, u"UserID,UserName,UserPWD,UserIP"_s,
-                                                u"UserName='"_s + name + u"'"_s);
+    RecordSet user = Gateway().SelectRows(u"User_List"_s, u"UserID,UserName,UserPWD,UserIP"_s,
+                                          u"UserName='"_s + name + u"'"_s);
+    // Quotes go into the statement as they are typed, so that a "name" can bring a row of its own.
+    while (!user.Eof() && !IsSameText(user.Text(1), name))
+        user.MoveNext();
     if (unknownName == UnknownName::Refuse && user.Eof()) {
         ShowInfo(u"不存在的用户名！"_s);
         return false;
@@ -48,7 +53,7 @@ bool TryLogon(const QString& name, const QString& password, UnknownName unknownN
     try {
         return CheckUser(name, password, unknownName);
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
         return false;
     }
 }
@@ -59,7 +64,8 @@ void EnterMainWindow()
         if (Form* frame = Windows().Load(u"frmMain"_s, nullptr))
             Windows().Show(u"frmSpash"_s, frame->Widget());
     } catch (const RunTimeError& error) {
-        ShowErrorMessage(error.Description());
+        ShowErrorMessage(error);
+        AbandonSession();
         if (Form* splash = Windows().Find(u"frmSpash"_s))
             splash->Widget()->close();
     }

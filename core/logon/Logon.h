@@ -16,6 +16,10 @@ bool TryLogon(const QString& name, const QString& password, UnknownName unknownN
 /// shown and nothing stays open.
 void EnterMainWindow();
 
+/// Characters of User_List.UserName. A field that takes no more has no room for a statement that returns
+/// its own text.
+inline constexpr int UserNameWidth = 60;
+
 /// Texts both logon screens show.
 extern const QString ServerUnreachable;
 extern const QString ClockOutOfStep;

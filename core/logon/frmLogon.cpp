@@ -7,6 +7,7 @@
 #include "core/base/ProgramFiles.h"
 #include "core/common/Handlers.h"
 #include "core/common/Messages.h"
+#include "core/common/Waiting.h"
 #include "core/forms/Fields.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/gateway/DataGateway.h"
@@ -25,7 +26,7 @@ frmLogon::frmLogon(QWidget* owner)
 {
     ui->setupUi(this);
     ui->cmbUserName->setCompleter(nullptr); // a typed name is that name, not the first that begins so
-    Chain().Combo(ui->cmbUserName);
+    Chain().Combo(ui->cmbUserName).AtMost(UserNameWidth);
     Chain().Field(ui->txtUserPWD).OnEnter([this] { Submit(); });
     OnPress(ui->cmdSubmit, [this] { Submit(); });
     OnPress(ui->cmdCancel, [this] { close(); });
@@ -72,9 +73,10 @@ void frmLogon::ConnectAsWorkstation()
                          [form = QPointer<frmLogon>(this)](const std::optional<QString>& date) {
                              if (date)
                                  Session::ServerDate = *date;
-                             frmLogon* waiting = form;
-                             if (waiting && waiting->isEnabled())
-                                 RunHandler([waiting, &date] { waiting->ServerDateArrived(date); });
+                             AfterWait([form, date] {
+                                 if (form && form->isEnabled())
+                                     RunHandler([form, date] { form->ServerDateArrived(date); });
+                             });
                          });
     Gateway().OpenConnection(Session::DataIniPath);
 }
@@ -112,13 +114,11 @@ void frmLogon::Submit()
     const QString name = ui->cmbUserName->currentText().trimmed();
     const QString password = ui->txtUserPWD->text().trimmed();
     if (name.isEmpty()) {
-        ShowInfo(u"用户名为空！"_s);
-        FocusAndSelect(ui->cmbUserName);
+        Refuse(ui->cmbUserName, u"用户名为空！"_s);
         return;
     }
     if (password.isEmpty()) {
-        ShowInfo(u"密码为空！"_s);
-        FocusAndSelect(ui->txtUserPWD);
+        Refuse(ui->txtUserPWD, u"密码为空！"_s);
         return;
     }
     if (TryLogon(name, password, UnknownName::ReadAnyway)) {

@@ -22,7 +22,7 @@ frmMultiLogon::frmMultiLogon(QWidget* owner)
 {
     ui->setupUi(this);
     Chain().Combo(ui->cmbAccName);
-    Chain().Field(ui->txtUserName).MovesOnWhenFilled();
+    Chain().Field(ui->txtUserName).AtMost(UserNameWidth).MovesOnWhenFilled();
     Chain().Field(ui->txtUserPWD).OnEnter([this] { Submit(); });
     OnPress(ui->cmdSubmit, [this] { Submit(); });
     OnPress(ui->cmdCancel, [this] { close(); });
@@ -46,13 +46,11 @@ void frmMultiLogon::Submit()
     const QString name = ui->txtUserName->text().trimmed();
     const QString password = ui->txtUserPWD->text().trimmed();
     if (name.isEmpty()) {
-        ShowInfo(u"用户名为空！"_s);
-        FocusAndSelect(ui->txtUserName);
+        Refuse(ui->txtUserName, u"用户名为空！"_s);
         return;
     }
     if (password.isEmpty()) {
-        ShowInfo(u"密码为空！"_s);
-        FocusAndSelect(ui->txtUserPWD);
+        Refuse(ui->txtUserPWD, u"密码为空！"_s);
         return;
     }
     if (!ChooseAccountSet() || !IsInStepWithServer() || !Connect())

@@ -2,11 +2,13 @@
 
 #include "core/base/IniFile.h"
 #include "core/common/Handlers.h"
+#include "core/common/Waiting.h"
 #include "core/forms/WindowRegistry.h"
 #include "core/session/SessionControl.h"
 
 #include <QLinearGradient>
 #include <QPainter>
+#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -33,7 +35,12 @@ frmSpash::frmSpash(QWidget* owner) : FormWindow(owner, SlotUse::Untouched), Show
     setWindowFlags(Qt::SplashScreen | Qt::FramelessWindowHint);
     setFixedSize(560, 300);
     ShowTimer->setSingleShot(true);
-    connect(ShowTimer, &QTimer::timeout, this, [this] { RunHandler([this] { TimeIsOver(); }); });
+    connect(ShowTimer, &QTimer::timeout, this, [this] {
+        AfterWait([splash = QPointer<frmSpash>(this)] {
+            if (splash)
+                RunHandler([splash] { splash->TimeIsOver(); });
+        });
+    });
 }
 
 void frmSpash::OnLoad()

@@ -69,6 +69,15 @@ void EndSession()
                                                u" And CheckID="_s + Quoted(Session::SessionCheckID));
 }
 
+void AbandonSession()
+{
+    try {
+        EndSession();
+    } catch (const RunTimeError&) {
+        // The next logon of the user sweeps the row away.
+    }
+}
+
 bool IsOutOfStepWithServer()
 {
     return Session::ClientFlag == u"1" &&

@@ -19,6 +19,10 @@ bool CheckSession();
 /// connection being closed all the same.
 void EndSession();
 
+/// Ends a session whose main window could not load: the row goes if it was written, the connection is
+/// closed. Does not throw, since the failure of the load is what the user has to read.
+void AbandonSession();
+
 /// True when today differs from the server's date of the logon, on a workstation. The main machine
 /// never differs.
 bool IsOutOfStepWithServer();

@@ -5,7 +5,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
+
+#include <functional>
 
 using namespace Qt::StringLiterals;
 
@@ -92,6 +95,22 @@ TEST_F(IniFile, AnEmptyValueIsEmptyAndAMissingOneIsTheFallback)
     EXPECT_EQ(Read(u"B"_s, u"x"_s, u"fallback"_s), u"fallback"_s);
     EXPECT_EQ(ReadIniValue(Path(u"absent.ini"_s), u"A"_s, u"x"_s, u"fallback"_s), u"fallback"_s);
     EXPECT_EQ(ReadIniValue(m_folder.path(), u"A"_s, u"x"_s, u"fallback"_s), u"fallback"_s);
+
+    // There, and yet not to be read: neither empty nor missing.
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, Path(u"closed.ini"_s)));
+    for (const auto& use :
+         {std::function<void()>([this] { ReadIniValue(Path(u"closed.ini"_s), u"A"_s, u"x"_s); }),
+          std::function<void()>([this] { WriteIniValue(Path(u"closed.ini"_s), u"A"_s, u"x"_s, u"1"_s); }),
+          std::function<void()>([this] { KeepOldIni(Path(u"closed.ini"_s)); })}) {
+        try {
+            use();
+            ADD_FAILURE() << "no exception";
+        } catch (const RunTimeError& error) {
+            EXPECT_TRUE(error.Description().startsWith(u"无法读取文件："_s + Path(u"closed.ini"_s)))
+                << error.what();
+        }
+    }
+    EXPECT_TRUE(QFileInfo(Path(u"closed.ini"_s)).isSymLink());
     EXPECT_EQ(Read(u"A"_s, u"y"_s), QString());
 }
 

@@ -1,8 +1,14 @@
+#include "core/logon/Logon.h"
 #include "core/session/LocalAddress.h"
 #include "tests/core/LogonCase.h"
 
+#include <QFileInfo>
 #include <QHostAddress>
+#include <QLineEdit>
+#include <QProcess>
 #include <QTest>
+
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -178,7 +184,7 @@ TEST_F(Logon, StrangeNamesAndPasswordsDoNoHarm)
         QString name;
         QString box;
     } cases[] = {{u"'"_s, u"SQL syntax"_s},
-                 {u"x' Or '1'='1"_s, u"用户名与密码不匹配！"_s},
+                 {u"x' Or '1'='1"_s, u"没有当前记录。"_s},
                  {u"a\\"_s, u"SQL syntax"_s},
                  {QString(3000, u'长'), u"没有当前记录。"_s},
                  {u"１２"_s, u"没有当前记录。"_s}};
@@ -193,6 +199,53 @@ TEST_F(Logon, StrangeNamesAndPasswordsDoNoHarm)
         EXPECT_TRUE(IsShown(u"frmLogon"_s));
     }
     EXPECT_EQ(Count(u"User_List"_s), 1);
+}
+
+TEST_F(Logon, ARowThatTheNameBroughtItselfIsNoUser)
+{
+    const QString statement = u"x' union select '01','管理员','p','' where ''='"_s;
+    ASSERT_LE(statement.size(), 60);
+    Open(u"frmLogon"_s);
+    TakeStatements();
+    for (const QString& name : {statement, u"管理员'#"_s, u"管理员' or '1'='1"_s}) {
+        auto* combo = Find<QComboBox>(u"frmLogon"_s, u"cmbUserName"_s);
+        combo->setFocus();
+        combo->lineEdit()->selectAll();
+        Type(name);
+        Press(Qt::Key_Return);
+        Find(u"frmLogon"_s, u"txtUserPWD"_s)->selectAll();
+        boxes.Expect(u"没有当前记录。"_s);
+        Enter(u"txtUserPWD"_s, name == statement ? u"p"_s : u"1"_s);
+        EXPECT_EQ(TakeStatements(),
+                  QStringList{u"SELECT UserID,UserName,UserPWD,UserIP FROM User_List WHERE UserName='"_s +
+                              name + u"'"_s})
+            << "as it was typed, and nothing after it";
+        EXPECT_FALSE(IsLoaded(u"frmMain"_s));
+        EXPECT_EQ(Session::CurrentUserID, QString());
+    }
+}
+
+TEST_F(Logon, ANameIsFoundAsTheServerComparesIt)
+{
+    AddUser(u"'02','Élodie Ångström','2','','0'"_s);
+    Gateway().OpenConnection(ProgramPath(u"\\Data\\Data.ini"_s));
+    for (const QString& typed : {u"élodie ångström"_s, u"ELODIE ANGSTROM"_s, u"Elodie Ångström "_s}) {
+        Session::CurrentUserID.clear();
+        EXPECT_TRUE(TryLogon(typed, u"2"_s, UnknownName::Refuse)) << typed.toStdString();
+        EXPECT_EQ(Session::CurrentUserID, u"02"_s);
+    }
+    boxes.Expect(u"不存在的用户名！"_s);
+    EXPECT_FALSE(TryLogon(u"Elodie  Angstrom"_s, u"2"_s, UnknownName::Refuse));
+}
+
+TEST_F(Logon, TheNameFieldTakesNoMoreThanTheColumn)
+{
+    Open(u"frmLogon"_s);
+    Type(QString(61, u'1'));
+    EXPECT_EQ(Find<QComboBox>(u"frmLogon"_s, u"cmbUserName"_s)->currentText(), QString(60, u'1'));
+    EXPECT_EQ(Value(u"SELECT CHARACTER_MAXIMUM_LENGTH FROM information_schema.COLUMNS WHERE "
+                    "TABLE_SCHEMA=DATABASE() AND TABLE_NAME='User_List' AND COLUMN_NAME='UserName'"_s),
+              u"60"_s);
 }
 
 TEST_F(Logon, ThePasswordIsNotShown)
@@ -281,11 +334,22 @@ TEST_F(Logon, AnAddressIsNotAskedForWithoutTheFlag)
     EXPECT_TRUE(IsLoaded(u"frmMain"_s));
 }
 
-TEST(LocalAddress, IsADottedAddress)
+TEST(LocalAddress, IsTheFirstOfTheMachinesOwn)
 {
-    const QHostAddress address(LocalIP());
-    EXPECT_EQ(address.protocol(), QAbstractSocket::IPv4Protocol);
-    EXPECT_EQ(address.toString(), LocalIP());
+    // Another's word for it: "hostname -I" lists what stands beside the loopback.
+    QProcess tool;
+    tool.start(u"hostname"_s, {u"-I"_s});
+    ASSERT_TRUE(tool.waitForFinished() && tool.exitCode() == 0) << "hostname -I does not run here";
+    QStringList addresses = QString::fromLatin1(tool.readAllStandardOutput()).split(u' ', Qt::SkipEmptyParts);
+    addresses.removeIf([](const QString& text) {
+        return QHostAddress(text.trimmed()).protocol() != QAbstractSocket::IPv4Protocol;
+    });
+    if (addresses.isEmpty()) {
+        std::printf("this machine has the loopback alone: no other address could be compared\n");
+        EXPECT_EQ(LocalIP(), u"127.0.0.1"_s);
+        return;
+    }
+    EXPECT_TRUE(addresses.contains(LocalIP())) << LocalIP().toStdString();
 }
 
 // Files and connections that fail
@@ -462,11 +526,47 @@ TEST_F(Logon, AnErrorInTheMainWindowsLoadIsToldAndNothingStaysOpen)
     Press(Qt::Key_Return);
     FailStatement(4, Refusal::Signalled);
     boxes.Expect(u"演练故障"_s);
+    boxes.WhileOpen([this] {
+        Settle();
+        EXPECT_EQ(m_ends, 0) << "the process ends over the open box";
+    });
     Enter(u"txtUserPWD"_s, u"1"_s);
     EXPECT_FALSE(IsLoaded(u"frmMain"_s));
     EXPECT_FALSE(IsLoaded(u"frmSpash"_s));
+    Settle();
     EXPECT_GE(m_ends, 1);
     EXPECT_EQ(Count(u"ErrInfo"_s), 0);
+}
+
+TEST_F(Logon, AMainWindowThatFailsAfterItsSessionBeganTakesTheSessionBack)
+{
+    Db().Run(u"INSERT INTO User_Status VALUES ('02','100000','2026-03-09','10:00:00')"_s);
+    Open(u"frmLogon"_s);
+    Type(u"管理员"_s);
+    Press(Qt::Key_Return);
+    FailStatement(5, Refusal::MissingTable); // behind the row of User_Status
+    boxes.ExpectContaining(u"Sys_Define"_s);
+    boxes.WhileOpen([this] {
+        Settle();
+        EXPECT_EQ(m_ends, 0);
+    });
+    Enter(u"txtUserPWD"_s, u"1"_s);
+    EXPECT_EQ(Sessions(), u"02 100000"_s) << "his own alone";
+    EXPECT_THROW(Gateway().SelectRows(u"Sales"_s, u"SalesID"_s, QString()), DatabaseError);
+    Settle();
+    EXPECT_GE(m_ends, 1);
+}
+
+TEST_F(Logon, AConnectionLostInTheMainWindowsLoadIsToldOnce)
+{
+    Open(u"frmLogon"_s);
+    Type(u"管理员"_s);
+    Press(Qt::Key_Return);
+    FailStatement(5, Refusal::LostLink);
+    boxes.ExpectContaining(u"请先记下屏幕上的内容"_s);
+    Enter(u"txtUserPWD"_s, u"1"_s);
+    Settle();
+    EXPECT_GE(m_ends, 1);
 }
 
 // The splash
@@ -552,6 +652,65 @@ TEST_F(Logon, TheConnectionScreenWritesWhatIsTyped)
         ReadFile(u"Data/New.ini"_s),
         u"[DataProp]\nServerName=服务器1\nUserID=a'b\nPWD=p;w\\\nDataBase=Shop\n[DBType]\nDrive=MYSQL\n"
         "[MYSQL]\nConnStr=DRIVER={MySQL ODBC 3.51 Driver};SERVER=服务器1;DATABASE=Orvane_PUB;UID=root;PWD=;\n"_s);
+}
+
+TEST_F(Logon, EnterInTheLastFieldOfTheConnectionScreenSaves)
+{
+    Session::DataIniPath = ProgramPath(u"\\Data\\New.ini"_s);
+    Open(u"frmDBC"_s);
+    Enter(u"txtServer"_s, u"db"_s);
+    Press(Qt::Key_Return);
+    Press(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), u"txtDatabase"_s);
+    EXPECT_EQ(ReadFile(u"Data/New.ini"_s), QString());
+    boxes.Expect(u"请重新启动程序！"_s);
+    Press(Qt::Key_Return);
+    EXPECT_FALSE(IsLoaded(u"frmDBC"_s));
+    EXPECT_TRUE(ReadFile(u"Data/New.ini"_s).startsWith(u"[DataProp]\nServerName=db\nUserID=root\nPWD=\n"_s));
+    EXPECT_FALSE(QFile::exists(ProgramFolder() + u"/Data/New.ini.old"_s)) << "there was none before";
+}
+
+TEST_F(Logon, TheConnectionScreenKeepsTheFileItReplacesOnceAndPrivate)
+{
+    Session::DataIniPath = ProgramPath(u"\\Data\\Data.ini"_s);
+    const QString good =
+        u"[DataProp]\nPWD=secret\n[DBType]\nDrive=MYSQL\n[MYSQL]\nConnStr=SERVER=db;PORT=3307;UID=till;PWD=secret;DATABASE=Shop;\n"_s;
+    const QString kept = ProgramFolder() + u"/Data/Data.ini.old"_s;
+    WriteProgramFile(u"Data/Data.ini"_s, good);
+    WriteProgramFile(u"Data/Data.ini.old"_s, u"an older one\n"_s);
+    QFile::setPermissions(Session::DataIniPath, QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(kept, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
+    Open(u"frmDBC"_s);
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtServer"_s), u"db"_s) << "what the connection text says";
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtUID"_s), u"till"_s);
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtPWD"_s), QString());
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtDatabase"_s), u"Shop"_s);
+    boxes.Expect(u"请重新启动程序！"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(ReadFile(u"Data/Data.ini"_s).contains(u"UID=root;PWD=;"_s));
+    EXPECT_EQ(ReadFile(u"Data/Data.ini.old"_s), good);
+    EXPECT_EQ(QFile::permissions(kept) &
+                  (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther),
+              QFile::Permissions());
+}
+
+TEST_F(Logon, AConnectionFileThatCannotBeReadIsNamed)
+{
+    // The kernel's own file refuses reading to everybody, the superuser included.
+    RemoveFile(u"Data/Data.ini"_s);
+    const QString ini = ProgramFolder() + u"/Data/Data.ini"_s;
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, ini));
+    boxes.ExpectContaining(u"无法读取文件："_s + ini);
+    Open(u"frmLogon"_s);
+    EXPECT_TRUE(IsShown(u"frmLogon"_s));
+
+    boxes.ExpectContaining(u"无法读取文件："_s + ini);
+    Open(u"frmDBC"_s);
+    EXPECT_EQ(TextOf(u"frmDBC"_s, u"txtUID"_s), u"root"_s);
+    boxes.ExpectContaining(u"无法读取文件："_s + ini);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_TRUE(IsShown(u"frmDBC"_s));
+    EXPECT_TRUE(QFileInfo(ini).isSymLink()) << "not replaced by a file of one line";
 }
 
 TEST_F(Logon, CancelOnTheConnectionScreenWritesNothing)

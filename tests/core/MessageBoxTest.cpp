@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -45,4 +46,38 @@ TEST(MessageBox, TheWordsAreShownWhole)
         });
         ShowInfo(words);
     }
+}
+
+TEST(MessageBox, ALongTextHasNoShortRest)
+{
+    for (const QString& words : {u"真的要清空这些数据表吗？注意：清空过后数据将不可恢复！"_s,
+                                 u"单"_s.repeated(31), u"号"_s.repeated(90)}) {
+        LookAtNextBox([&words](QMessageBox& box) {
+            const auto* label = box.findChild<QLabel*>(u"qt_msgbox_label"_s);
+            ASSERT_NE(label, nullptr);
+            const QFontMetrics metrics = label->fontMetrics();
+            const int all = metrics.horizontalAdvance(words);
+            const int perLine = label->width() / metrics.horizontalAdvance(words.left(1));
+            const auto rest = words.size() % perLine;
+            EXPECT_TRUE(all <= label->width() || rest == 0 || rest * 2 > perLine)
+                << words.toStdString() << " leaves " << rest << " of " << perLine;
+        });
+        ShowInfo(words);
+    }
+}
+
+TEST(MessageBox, YesIsTheDefaultExceptBeforeSomethingIsDestroyed)
+{
+    LookAtNextBox([](QMessageBox& box) {
+        EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Yes));
+        EXPECT_FALSE(box.iconPixmap().isNull());
+    });
+    EXPECT_TRUE(AskYesNo(u"真的要退出系统吗？"_s));
+    LookAtNextBox([](QMessageBox& box) { EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::No)); });
+    EXPECT_FALSE(AskBeforeDestroying(u"真的要清空这些数据表吗？"_s)) << "by Enter";
+    QTimer::singleShot(0, qApp, [] {
+        WaitFor([] { return QApplication::activeModalWidget() != nullptr; });
+        Press(Qt::Key_Y);
+    });
+    EXPECT_TRUE(AskBeforeDestroying(u"真的要清空这些数据表吗？"_s)) << "by its own key";
 }

@@ -97,6 +97,20 @@ TEST_F(MultiLogon, NameAndPasswordLeadIntoTheChosenSet)
     WaitFor([] { return IsShown(u"frmMain"_s); });
 }
 
+TEST_F(MultiLogon, ARowThatTheNameBroughtItselfIsNoUserAndTheNameIsNoLongerThanTheColumn)
+{
+    Open(u"frmMultiLogon"_s);
+    ChooseSet(1);
+    boxes.Expect(u"不存在的用户名！"_s);
+    TypeUser(u"x' union select '01','管理员','p','' where ''='"_s, u"p"_s);
+    EXPECT_FALSE(IsLoaded(u"frmMain"_s));
+    EXPECT_EQ(Session::CurrentUserID, QString());
+    ChooseSet(1);
+    Find(u"frmMultiLogon"_s, u"txtUserName"_s)->selectAll();
+    Type(QString(61, u'1'));
+    EXPECT_EQ(TextOf(u"frmMultiLogon"_s, u"txtUserName"_s), QString(60, u'1'));
+}
+
 TEST_F(MultiLogon, EnterInTheNameMovesOnOnlyWhenThereIsOne)
 {
     Open(u"frmMultiLogon"_s);

@@ -3,6 +3,7 @@
 #include "core/forms/FormWindow.h"
 #include "core/forms/WindowRegistry.h"
 
+#include <QCloseEvent>
 #include <QLineEdit>
 #include <QVBoxLayout>
 
@@ -46,11 +47,24 @@ public:
     std::function<void()> onLoad;
     std::function<void(const QString&)> onKey;
 
+    bool refusesToClose = false;
+
     using FormWindow::Chain;
+    using FormWindow::CloseThenShow;
     using FormWindow::Guarded;
     using FormWindow::GuardedUnlogged;
     using FormWindow::OnPress;
+    using FormWindow::Refuse;
     using FormWindow::TextBoxes;
+
+protected:
+    void closeEvent(QCloseEvent* event) override
+    {
+        if (refusesToClose)
+            event->ignore();
+        else
+            FormWindow::closeEvent(event);
+    }
 
 private:
     QVBoxLayout* m_layout;

@@ -353,3 +353,67 @@ TEST_F(Registry, AnOwnedWindowStandsOverTheMiddleOfItsOwner)
     const QPoint distance = owned->Widget()->geometry().center() - owner->geometry().center();
     EXPECT_LT(distance.manhattanLength(), 5);
 }
+
+TEST_F(Registry, APromptComesBackAfterTheFinishedWindowHasClosedAndItsHandlerIsOver)
+{
+    QStringList log;
+    const auto note = [&log] {
+        log << (Probe(u"frmBill"_s) ? u"bill open"_s : u"bill gone"_s) +
+                   (Session::WindowSlotFree ? u", slot free"_s : u", slot taken"_s);
+    };
+    RegisterProbe(u"frmPrompt"_s, [&](ProbeForm& form) {
+        form.Chain().Field(form.Add(u"txtListNO"_s));
+        form.onLoad = note;
+    });
+    RegisterProbe(
+        u"frmBill"_s,
+        [&](ProbeForm& form) {
+            form.Chain().Field(form.Add(u"txtA"_s)).OnEnter([&] {
+                form.CloseThenShow(u"frmPrompt"_s);
+                note();
+                ShowInfo(u"已保存"_s);
+                note();
+            });
+        },
+        SlotUse::Takes);
+    Open(u"frmBill"_s);
+    boxes.Expect(u"已保存"_s);
+    boxes.WhileOpen([] { Settle(); });
+    Press(Qt::Key_Return);
+    EXPECT_EQ(log,
+              (QStringList{u"bill gone, slot free"_s, u"bill gone, slot free"_s, u"bill gone, slot free"_s}));
+    ASSERT_NE(Probe(u"frmPrompt"_s), nullptr);
+    EXPECT_EQ(FocusName(), u"txtListNO"_s);
+}
+
+TEST_F(Registry, NoPromptComesOverAWindowThatDoesNotClose)
+{
+    RegisterProbe(u"frmPrompt"_s, nullptr);
+    RegisterProbe(u"frmBill"_s, [](ProbeForm& form) {
+        form.refusesToClose = true;
+        form.Chain().Field(form.Add(u"txtA"_s)).OnEnter([&form] { form.CloseThenShow(u"frmPrompt"_s); });
+    });
+    Open(u"frmBill"_s);
+    Press(Qt::Key_Return);
+    EXPECT_NE(Probe(u"frmBill"_s), nullptr);
+    EXPECT_EQ(Probe(u"frmPrompt"_s), nullptr);
+}
+
+TEST_F(Registry, ARefusedFieldGetsTheCursorAfterTheMessage)
+{
+    RegisterProbe(u"frmProbe"_s, [](ProbeForm& form) {
+        auto* first = form.Add(u"txtA"_s);
+        form.Chain().Field(first);
+        form.Chain().Field(form.Add(u"txtB"_s)).OnEnter([&form, first] {
+            EXPECT_FALSE(form.Refuse(first, u"请填写编号！"_s));
+        });
+    });
+    Open(u"frmProbe"_s);
+    Enter(u"txtA"_s, u"abc"_s);
+    boxes.Expect(u"请填写编号！"_s);
+    boxes.WhileOpen([] { EXPECT_EQ(FocusName(), u"txtB"_s); });
+    Press(Qt::Key_Return);
+    EXPECT_EQ(FocusName(), u"txtA"_s);
+    EXPECT_EQ(TextOf(u"frmProbe"_s, u"txtA"_s), u"abc"_s);
+    EXPECT_EQ(Find(u"frmProbe"_s, u"txtA"_s)->selectedText(), u"abc"_s);
+}

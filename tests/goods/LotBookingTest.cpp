@@ -26,6 +26,7 @@ protected:
         TakeStatements();
     }
     void Save() { Press(Qt::Key_S, Qt::AltModifier); }
+    void ClickSave() { Click(Find<QWidget>(u"frmPRDList"_s, u"cmdSubmit"_s)); }
 };
 
 const QString InsertOfTheTypedLot =
@@ -150,8 +151,10 @@ TEST_F(LotBooking, DownFromTheCrateGoesToTheLockAndSavesNothing)
 
 TEST_F(LotBooking, WhatIsMissingIsAskedForInOrderAndNothingIsWritten)
 {
+    Save(); // the key leaves 品号 first, which is not left empty
+    EXPECT_EQ(FocusName(), u"txtPID"_s);
     boxes.Expect(u"请填写编号！"_s);
-    Save();
+    ClickSave();
     EXPECT_EQ(FocusName(), u"txtPID"_s);
 
     Enter(u"txtPID"_s, u"A"_s);
@@ -226,7 +229,7 @@ TEST_F(LotBooking, SavedByTheButtonRightAfterTypingOverTheSortTheLotKeepsTheNumb
 {
     PutNewLot();
     Put(u"txtPID"_s, u"B"_s);
-    Click(Find<QWidget>(u"frmPRDList"_s, u"cmdSubmit"_s));
+    ClickSave();
     EXPECT_EQ(Db().Rows(u"SELECT PID,CustID,PRDNo,PRDName FROM PRD_List"_s),
               (std::vector<QStringList>{{u"B"_s, u"005"_s, u"A-005"_s, u"苹果"_s}}));
     EXPECT_EQ(Value(u"SELECT CurrNumber FROM PRD_Sort WHERE SortID='A'"_s), u"4"_s);
@@ -237,7 +240,7 @@ TEST_F(LotBooking, SavedByTheButtonRightAfterTypingThePlaceItIsStoredAsTyped)
 {
     PutNewLot();
     Put(u"txtStore"_s, u"没有的库"_s);
-    Click(Find<QWidget>(u"frmPRDList"_s, u"cmdSubmit"_s));
+    ClickSave();
     EXPECT_EQ(Value(u"SELECT Store FROM PRD_List"_s), u"没有的库"_s);
 }
 

@@ -140,13 +140,15 @@ TEST_F(LotFields, AQuoteInTheStoreShowsTheServersWordsOnce)
     EXPECT_EQ(Count(u"ErrInfo"_s), 0);
 }
 
-TEST_F(LotFields, TheSaveDoesNotLookTheStoreUpAgain)
+TEST_F(LotFields, TheKeyThatSavesLooksTheStoreUpFirst)
 {
     PutRequired();
     Go(u"txtStore"_s);
     Type(u"三号库"_s);
+    boxes.Expect(u"仓位不存在，请重新输入仓位！"_s);
     Save();
-    EXPECT_EQ(Value(u"SELECT Store FROM PRD_List"_s), u"三号库"_s);
+    EXPECT_EQ(Count(u"PRD_List"_s), 0);
+    EXPECT_EQ(FocusName(), u"txtStore"_s);
 }
 
 TEST_F(LotFields, LockedFieldsTakeNoTyping)

@@ -72,6 +72,34 @@ same "PWD" "PWD=geheim" "$(grep '^PWD' "$work/p2.ini")"
 same "rows" "$(sql P2 "SELECT COUNT(*) FROM Menu_List")" "$(MYSQL_PWD=geheim mariadb --no-defaults --socket="$socket" --user=till2 -BN P2 -e 'SELECT COUNT(*) FROM Menu_List')"
 sql mysql "DROP USER till2@localhost; DROP DATABASE P2"
 
+checking "no password stands on a command line, its own or one it starts, given by the environment"
+mkdir "$work/bin"
+cat >"$work/bin/mariadb" <<END
+#!/bin/bash
+printf '%s\\n' "\$@" >>"$work/started"
+exec $(command -v mariadb) "\$@"
+END
+chmod +x "$work/bin/mariadb"
+sql mysql "CREATE USER maker@localhost IDENTIFIED BY 'geheim-1'; GRANT ALL ON *.* TO maker@localhost WITH GRANT OPTION"
+(while [ ! -e "$work/made" ]; do cat /proc/[0-9]*/cmdline 2>/dev/null | tr '\0' '\n' | grep -a geheim- >>"$work/seen"; done) 2>/dev/null &
+watcher=$!
+PATH=$work/bin:$PATH ORVANE_DB_PASSWORD=geheim-1 ORVANE_FIRST_PASSWORD=geheim-2 ORVANE_APP_PASSWORD=geheim-3 \
+    "${make[@]}" --user maker --database P3 --first-user 01:老板 --app-user till3 --ini "$work/p3.ini"
+touch "$work/made"
+wait $watcher || true
+[ "$(grep -c . "$work/started")" -gt 20 ] || wrong "the client was not watched: $(cat "$work/started")"
+same "in what it started" "" "$(grep geheim- "$work/started" || true)"
+# The watcher's own words stand on its command line too.
+same "in the list of processes" "" "$(grep -v '^geheim-$' "$work/seen" || true)"
+same "first user" geheim-2 "$(sql P3 "SELECT UserPWD FROM User_List")"
+same "connection" PWD=geheim-3 "$(grep '^PWD' "$work/p3.ini")"
+refused "put it into ORVANE_DB_PASSWORD" "${make[@]}" --password geheim-1
+sql mysql "DROP USER till3@localhost, maker@localhost; DROP DATABASE P3"
+
+checking "from elsewhere the program's user connects only where it was said"
+refused "say from where till connects" "$packaging/create-account-set" --host db.lan --app-user till:x
+refused "cannot connect" "$packaging/create-account-set" --host 127.0.0.1 --port 1 --app-user till:x
+
 checking "a failure half way takes away what was made, and only that"
 before_databases=$(databases) before_users=$(users)
 cp -r "$root/core/schema" "$work/schema"
@@ -138,4 +166,4 @@ refused "unknown option" "${nowhere[@]}" --nonsense x
 refused "needs a value" "${nowhere[@]}" --database
 refused "--socket PATH or --host HOST" "$packaging/create-account-set"
 refused "cannot connect" "${nowhere[@]}"
-refused "cannot connect: Access denied" "${make[@]}" --user nobody9 --password geheim --database H
+ORVANE_DB_PASSWORD=geheim refused "cannot connect: Access denied" "${make[@]}" --user nobody9 --database H

@@ -116,60 +116,63 @@ sql S "INSERT INTO Sal_List (SalNo, ListNo, ID, PRDNo, Vendee, SaleDate, ReturnD
   INSERT INTO Fee_List (FeeNo, FeeDate, FeeID) SELECT seq DIV 3, CONCAT('D',seq DIV 10), seq % 4 FROM seq_1_to_2000;
   INSERT INTO Count_Bill (TID, UID, CurrDate) SELECT '01', '02', CONCAT('D',seq) FROM seq_1_to_2000;
   INSERT INTO Count_Bill (TID, CurrDate) SELECT 'C01', CONCAT('D',seq) FROM seq_1_to_2000;
-  ANALYZE TABLE Sal_List, PRD_List, EStore_List, CustDebit, CheckOut, CheckOut_B, Sal_List_B, Pack_List, DFN_Pack_B, Foregift_RTN, Fee_List, Count_Bill" >/dev/null
-# TABLE | FIELDS | CONDITION | how many rows at most the server may expect to look at
-while IFS='|' read -r table fields where most; do
+  INSERT INTO Cust_List (CustName, bolControl) SELECT CONCAT('买',seq), seq % 2 FROM seq_1_to_2000;
+  ANALYZE TABLE Cust_List, Sal_List, PRD_List, EStore_List, CustDebit, CheckOut, CheckOut_B, Sal_List_B, Pack_List, DFN_Pack_B, Foregift_RTN, Fee_List, Count_Bill" >/dev/null
+# TABLE | FIELDS | CONDITION | its index | how many rows at most the server may expect to look at
+while IFS='|' read -r table fields where index most; do
     [ -n "$table" ] || continue
     plan=$(sql S "EXPLAIN SELECT $fields FROM $table WHERE $where")
     IFS=$'\t' read -r _ _ _ type _ key _ _ rows extra <<<"$plan"
     # Found by its key, and then not of that kind: nothing left to read.
     [[ $extra != *"after reading const tables"* ]] || continue
+    [ "$key" = "$index" ] || wrong "$table WHERE $where uses the index $key, not $index: $plan"
     case $type in ALL | index) wrong "$table WHERE $where reads everything: $plan" ;; esac
     [ "$rows" -le "${most:-200}" ] || wrong "$table WHERE $where looks at $rows rows: $plan"
     case $fields in SUM*) [[ $extra == *"Using index"* ]] || wrong "$table WHERE $where leaves the index: $plan" ;; esac
 done <<'END'
-PRD_List|PRDNo|(PRDNo='A-1950' Or PRDNo_S='A-1950') And bolCheckOut='0'|
-PRD_List|PRDNo|PRDNo='A-1950' And VerifyID='1' And bolCheckOut='0'|
-PRD_List|PRDNo|PRDNo_S='1950' And bolCheckOut='0' And PRDNo<>'A-1'|
-PRD_List|PRDNo,Num|bolCheckOut='0' Order By ID Desc|
-PRD_List|PRDNo|ID='L7' And bolCheckOut='0'|
-EStore_List|SUM(Num)|ID='L7' And EStoreType='1'|
-EStore_List|ITM|EStoreDate='D7' And PRDNo='A-1' Order By ITM DESC|
-Sal_List|SUM(Num)|ID='L7'|
-Sal_List|SUM(Num)|ID='L7' And Suttle=0|
-Sal_List|SUM(Suttle)|ID='L7'|
-Sal_List|SUM(Amount)|ID='L7'|
-Sal_List|SUM(Num)|ID='L7' And SaleDate='D2'|
-Sal_List|Count(*)|ID='L7'|
-Sal_List|SUM(TotalAmount)|Vendee='买3' And SaleType='1' And bolReturn='0'|
-Sal_List|SUM(TotalAmount)|Vendee='买3' And SaleType='1' And bolReturn='1' And (ReturnDate>='D1' And ReturnDate<='D2')|
-Sal_List|SUM(TotalAmount)|SaleType='1' And bolReturn='0'|1000
-Sal_List|SUM(TotalAmount)|(ReturnDate>='D190' And ReturnDate<='D191') And bolReturn='1'|
-Sal_List|SUM(ForegiftAmount)|bForegiftRTN='0' And ForegiftAmount>0|1500
-Sal_List|SUM(Amount)|bolCheckOut='0'|2500
-Sal_List|PRDNo,ID|PRDNo='A-480' And bolCheckOut='0'|
-Sal_List|PRDNo|SalNo='02000000007'|
-Sal_List|PRDNo|(SalNo='02000000007' Or ListNo='02000000007') And bForegiftRTN='0'|
-Sal_List|SalNo|(SaleDate>='D150' And SaleDate<='D150') Order By SalNo|
-Sal_List|Amount|SaleDate='D150' And PRDName='苹果'|
-Sal_List|Amount|(SaleDate>='D150' And SaleDate<='D150') And Receiver='01'|
-Sal_List|Amount|(SaleDate>='D150' And SaleDate<='D150') And SalesID='11'|
-Sal_List|Amount|(SaleDate>='D150' And SaleDate<='D150') And Store='S1'|
-Sal_List_B|SalNo|(SaleDate>='D150' And SaleDate<='D150')|
-CustDebit|SUM(DebitAmount)|ID='L7'|
-CustDebit|SUM(DebitAmount)|bolCheckOut='0'|
-CustDebit|DebitAmount|(DebitDate>='D150' And DebitDate<='D150')|
-CheckOut|PRDNo|CheckNo='77'|
-CheckOut|Amount|Store='S1' And CheckDate='D7'|
-CheckOut_B|Amount|(CheckDate>='D7' And CheckDate<='D7')|
-Pack_List|ITM|PackDate='D7' And PackNo='K1' Order By ITM DESC|
-Pack_List|Num|PackNo='K1' And bolCheck='0'|
-DFN_Pack_B|Num_BGN|CheckDate='D7' And PackNo='K' And CheckITM='0'|
-Foregift_RTN|SalNo|SalNo='7'|
-Foregift_RTN|SalNo|(RForegiftDate>='D7' And RForegiftDate<='D7') Order By RForegiftDate|
-Fee_List|FeeDate|FeeNo='7'|
-Fee_List|SUM(Amount)|(FeeDate>='D7' And FeeDate<='D7') And FeeID='1'|
-Count_Bill|CurrNumber|CurrDate='D7' And TID='01' And UID='02'|
-Count_Bill|CurrNumber|CurrDate='D7' And TID='C01'|
-User_Status|CheckID|UserID='01'|
+PRD_List|PRDNo|(PRDNo='A-1950' Or PRDNo_S='A-1950') And bolCheckOut='0'|PRDNo,PRDNo_S
+PRD_List|PRDNo|PRDNo='A-1950' And VerifyID='1' And bolCheckOut='0'|PRDNo
+PRD_List|PRDNo|PRDNo_S='1950' And bolCheckOut='0' And PRDNo<>'A-1'|PRDNo_S
+PRD_List|PRDNo,Num|bolCheckOut='0' Order By ID Desc|bolCheckOut
+PRD_List|PRDNo|ID='L1950' And bolCheckOut='0'|PRIMARY
+EStore_List|SUM(Num)|ID='L7' And EStoreType='1'|ID
+EStore_List|ITM|EStoreDate='D7' And PRDNo='A-1' Order By ITM DESC|EStoreDate
+Sal_List|SUM(Num)|ID='L7'|ID
+Sal_List|SUM(Num)|ID='L7' And Suttle=0|ID
+Sal_List|SUM(Suttle)|ID='L7'|ID
+Sal_List|SUM(Amount)|ID='L7'|ID
+Sal_List|SUM(Num)|ID='L7' And SaleDate='D2'|ID
+Sal_List|Count(*)|ID='L7'|ID
+Cust_List|CreditMoney|CustName='买3' And bolControl='1'|PRIMARY
+Sal_List|SUM(TotalAmount)|Vendee='买3' And SaleType='1' And bolReturn='0'|Vendee
+Sal_List|SUM(TotalAmount)|Vendee='买3' And SaleType='1' And bolReturn='1' And (ReturnDate>='D1' And ReturnDate<='D2')|Vendee
+Sal_List|SUM(TotalAmount)|SaleType='1' And bolReturn='0'|SaleType|1000
+Sal_List|SUM(TotalAmount)|(ReturnDate>='D190' And ReturnDate<='D191') And bolReturn='1'|ReturnDate
+Sal_List|SUM(ForegiftAmount)|bForegiftRTN='0' And ForegiftAmount>0|bForegiftRTN|1500
+Sal_List|SUM(Amount)|bolCheckOut='0'|bolCheckOut|2500
+Sal_List|PRDNo,ID|PRDNo='A-480' And bolCheckOut='0'|bolCheckOut
+Sal_List|PRDNo|SalNo='02000000007'|PRIMARY
+Sal_List|PRDNo|(SalNo='02000000007' Or ListNo='02000000007') And bForegiftRTN='0'|PRIMARY,ListNo
+Sal_List|SalNo|(SaleDate>='D150' And SaleDate<='D150') Order By SalNo|SaleDate
+Sal_List|Amount|SaleDate='D150' And PRDName='苹果'|SaleDate
+Sal_List|Amount|(SaleDate>='D150' And SaleDate<='D150') And Receiver='01'|Receiver
+Sal_List|Amount|(SaleDate>='D150' And SaleDate<='D150') And SalesID='11'|SalesID
+Sal_List|Amount|(SaleDate>='D150' And SaleDate<='D150') And Store='S1'|Store
+Sal_List_B|SalNo|(SaleDate>='D150' And SaleDate<='D150')|SaleDate
+CustDebit|SUM(DebitAmount)|ID='L7'|ID
+CustDebit|SUM(DebitAmount)|bolCheckOut='0'|bolCheckOut
+CustDebit|DebitAmount|(DebitDate>='D150' And DebitDate<='D150')|DebitDate
+CheckOut|PRDNo|CheckNo='77'|PRIMARY
+CheckOut|Amount|Store='S1' And CheckDate='D7'|CheckDate
+CheckOut_B|Amount|(CheckDate>='D7' And CheckDate<='D7')|CheckDate
+Pack_List|ITM|PackDate='D7' And PackNo='K1' Order By ITM DESC|PackDate
+Pack_List|Num|PackNo='K1' And bolCheck='0'|PackNo
+DFN_Pack_B|Num_BGN|CheckDate='D7' And PackNo='K' And CheckITM='0'|CheckDate
+Foregift_RTN|SalNo|SalNo='7'|SalNo
+Foregift_RTN|SalNo|(RForegiftDate>='D7' And RForegiftDate<='D7') Order By RForegiftDate|RForegiftDate
+Fee_List|FeeDate|FeeNo='7'|FeeNo
+Fee_List|SUM(Amount)|(FeeDate>='D7' And FeeDate<='D7') And FeeID='1'|FeeDate
+Count_Bill|CurrNumber|CurrDate='D7' And TID='01' And UID='02'|PRIMARY
+Count_Bill|CurrNumber|CurrDate='D7' And TID='C01'|PRIMARY
+User_Status|CheckID|UserID='01'|UserID
 END

@@ -348,18 +348,24 @@ TEST_P(SettlementFees, APastedTextIsTestedAsAWholeAndAmountsAreReadWithSignAndGr
     EXPECT_EQ(Text(u"txtGTotalPrice"_s), u"¥10,020.0"_s);
 }
 
-TEST_P(SettlementFees, AHugeFeeIsShownWholeAndAHugeRateThatOverflowsSaysSo)
+TEST_P(SettlementFees, AFeeTakesTwentyCharactersAndIsNotCutByItsGroupingAndAHugeRateThatOverflowsSaysSo)
 {
     AddTicket(40, 0, 1000);
     OpenLayout();
     EnterLot();
-    TypeInto(u"txtLPackPrice"_s, QString(40, u'9'));
-    Press(Qt::Key_Return);
-    // Fifteen digits are trusted, so forty nines are a one with forty noughts.
-    EXPECT_EQ(Text(u"txtLPackPrice"_s).remove(u','), u'1' + QString(40, u'0') + u".0"_s);
+    for (const QString& fee : FeeFields) {
+        if (fee == u"txtLExpendPrice")
+            continue;
+        GoTo(fee);
+        Type(QString(40, u'9'));
+        EXPECT_EQ(Text(fee), QString(20, u'9')) << fee.toStdString();
+        Press(Qt::Key_Return);
+        // Fifteen digits are trusted, so twenty nines are a one with twenty noughts.
+        EXPECT_EQ(Text(fee), u"100,000,000,000,000,000,000.0"_s) << fee.toStdString();
+    }
     EXPECT_EQ(Text(u"txtGTotalPrice"_s), QString());
 
     boxes.Expect(u"溢出"_s);
     PasteInto(u"txtPer_LManage"_s, u"1e307"_s); // 1e310 by the amount
-    EXPECT_EQ(Text(u"txtLManagePrice"_s), QString());
+    EXPECT_EQ(Text(u"txtLManagePrice"_s), u"100,000,000,000,000,000,000.0"_s) << "as it was";
 }

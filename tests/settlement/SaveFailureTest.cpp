@@ -1,7 +1,5 @@
 #include "tests/settlement/SettlementWindow.h"
 
-#include <QLabel>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -249,7 +247,7 @@ TEST_F(NumberTypedOver, IsSavedBesideTheLotThatWasFound)
     OpenLayout(u"frmCheckOut"_s);
     FillForSaving();
     TypeInto(u"txtPRDNo"_s, u"Z-9"_s);
-    Click(Find<QLabel>(Layout(), u"cmdSubmit"_s));
+    ClickSave();
     EXPECT_EQ(Db().Rows(u"SELECT ID,PRDNo,CustName FROM CheckOut"_s),
               (std::vector<QStringList>{{Lot, u"Z-9"_s, u"王建国"_s}}));
     EXPECT_EQ(Value(u"SELECT bolCheckOut FROM PRD_List WHERE ID='20260301001'"_s), u"1"_s);
@@ -262,7 +260,7 @@ TEST_F(NumberTypedOver, ByBlanksStopsTheSaveWithoutAWord)
     FillForSaving();
     TypeInto(u"txtPRDNo"_s, u"  "_s);
     TakeStatements();
-    Click(Find<QLabel>(Layout(), u"cmdSubmit"_s));
+    ClickSave();
     EXPECT_EQ(TakeStatements(), QStringList());
     EXPECT_EQ(Text(u"txtGTotalPrice"_s), u"¥1,000.0"_s);
 }
@@ -274,6 +272,38 @@ TEST_F(NumberTypedOver, IsRefusedOnTheLayoutThatClearsItself)
     FillForSaving();
     TypeInto(u"txtPRDNo"_s, u"Z"_s);
     boxes.Expect(u"实得金额为负数，不能进行结算。"_s);
-    Click(Find<QLabel>(Layout(), u"cmdSubmit"_s));
+    ClickSave();
     EXPECT_EQ(Count(u"CheckOut"_s), 0);
+}
+
+TEST_F(NumberTypedOver, IsLookedUpByTheKeyThatSaves)
+{
+    AddTicket(40, 0, 1000);
+    for (const QString& layout : {u"frmCheckOut"_s, u"frmCheckOutA"_s}) {
+        OpenLayout(layout);
+        FillForSaving();
+        TypeInto(u"txtPRDNo"_s, u"Z-9"_s);
+        boxes.Expect(u"该编号不存在或已结算，请重新输入！"_s);
+        Press(Qt::Key_S, Qt::AltModifier);
+        boxes.Verify();
+        EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
+        EXPECT_EQ(Text(u"txtPRDNo"_s), QString());
+        Press(Qt::Key_S, Qt::AltModifier); // a blank number holds the focus, without a word
+        EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
+        EXPECT_EQ(Count(u"CheckOut"_s), 0);
+        EXPECT_EQ(Value(u"SELECT bolCheckOut FROM PRD_List"_s), u"0"_s);
+        Windows().Find(layout)->Widget()->close();
+        Settle();
+    }
+}
+
+TEST_F(NumberTypedOver, ByTheShortcutOfTheLotIsSavedUnderItsMainNumber)
+{
+    AddTicket(40, 0, 1000);
+    OpenLayout(u"frmCheckOut"_s);
+    FillForSaving();
+    TypeInto(u"txtPRDNo"_s, u"8"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Db().Rows(u"SELECT ID,PRDNo,GTotalPrice FROM CheckOut"_s),
+              (std::vector<QStringList>{{Lot, u"A-001"_s, u"1000.000000"_s}}));
 }

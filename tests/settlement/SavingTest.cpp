@@ -2,8 +2,6 @@
 #include "printing/Documents.h"
 #include "tests/settlement/SettlementWindow.h"
 
-#include <QLabel>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -271,7 +269,7 @@ TEST_P(SettlementSave, WithoutALotTheWordsOfANegativeNetAreSaid)
 {
     OpenLayout();
     boxes.Expect(NothingLeft);
-    Save();
+    ClickSave();
     EXPECT_EQ(TakeStatements(), QStringList());
 }
 
@@ -314,7 +312,7 @@ TEST_P(SettlementSave, AnyFeeStillBlankIsAnErrorWithNothingWritten)
         Press(Qt::Key_Delete);
         TakeStatements();
         boxes.Expect(u"类型不匹配"_s);
-        Click(Find<QLabel>(Layout(), u"cmdSubmit"_s)); // the field with the cursor is not completed by it
+        ClickSave(); // the field with the cursor is not completed by it
         EXPECT_EQ(Text(fee), QString()) << fee.toStdString();
         EXPECT_EQ(FocusName(), fee);
         const QStringList sent = TakeStatements();

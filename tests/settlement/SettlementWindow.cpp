@@ -1,5 +1,7 @@
 #include "tests/settlement/SettlementWindow.h"
 
+#include "core/forms/LabelButton.h"
+
 #include "core/forms/Fields.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
@@ -68,6 +70,11 @@ void SettlementWindow::EnterLot(const QString& number)
 {
     GoTo(u"txtPRDNo"_s);
     Enter(u"txtPRDNo"_s, number);
+}
+
+void SettlementWindow::ClickSave()
+{
+    Click(Find<LabelButton>(m_layout, u"cmdSubmit"_s));
 }
 
 void SettlementWindow::GoTo(const QString& control)

@@ -27,6 +27,8 @@ protected:
 
     /// Types the lot's number and Enter; the focus is then on the first rate.
     void EnterLot(const QString& number = QStringLiteral("A-001"));
+    /// Saves with the mouse, which leaves no field.
+    void ClickSave();
     /// Sets the focus on a control, as a click would, with its text selected.
     void GoTo(const QString& control);
     /// Goes to a control and types over its text.

@@ -160,6 +160,15 @@ TEST_F(PasswordWindow, APasswordThatDoesNotReadBackIsToldAsFailed)
     EXPECT_EQ(Stored(), u"1"_s);
 }
 
+TEST_F(PasswordWindow, RowsThatAQuoteInThePasswordBroughtAreNoSuccess)
+{
+    const QString password = u"n' Or '1'='1"_s;
+    Fill(u"1"_s, password, password);
+    boxes.Expect(u"密码修改失败！请联系管理员！"_s);
+    Submit();
+    EXPECT_EQ(TakeStatements(), (QStringList{Read, UpdateOf(password), ReadBackOf(password)}));
+}
+
 TEST_F(PasswordWindow, EachStatementThatFailsIsShownWithoutALogRow)
 {
     struct Case {

@@ -108,7 +108,7 @@ TEST_F(ClearingWindow, TheTickedTablesAreEmptiedInOrderAndNothingElse)
     OpenThree();
     Lines()->item(0)->setCheckState(Qt::Checked);
     Lines()->item(2)->setCheckState(Qt::Checked);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(TakeStatements(), (QStringList{u"DELETE FROM Sal_List"_s, u"DELETE FROM CustDebit"_s}));
@@ -126,7 +126,7 @@ TEST_F(ClearingWindow, NoLeavesEverything)
 {
     OpenThree();
     Press(Qt::Key_Space);
-    boxes.ExpectQuestion(Question, false);
+    boxes.ExpectDestroying(Question, false);
     Submit();
     EXPECT_EQ(TakeStatements(), QStringList());
     EXPECT_EQ(Left(), u"2 1 3"_s);
@@ -136,7 +136,7 @@ TEST_F(ClearingWindow, NoLeavesEverything)
 TEST_F(ClearingWindow, WithNothingTickedOrNothingListedItAsksAndReportsAllTheSame)
 {
     OpenThree();
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(TakeStatements(), QStringList());
@@ -147,7 +147,7 @@ TEST_F(ClearingWindow, WithNothingTickedOrNothingListedItAsksAndReportsAllTheSam
     WriteTables({u"收银清单|Sal_List"_s}, u"0"_s);
     Open(Window);
     EXPECT_EQ(Lines()->count(), 0);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(TakeStatements(), QStringList());
@@ -159,7 +159,7 @@ TEST_F(ClearingWindow, WithoutTheIniItSaysSoStaysAndStillAsks)
     boxes.Expect(u"找不到系统所需要的配置文件！"_s);
     Open(Window);
     EXPECT_EQ(Lines()->count(), 0);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(TakeStatements(), QStringList());
@@ -198,13 +198,13 @@ TEST_F(ClearingWindow, NamesAreReadWhenTheyAreNeededAndTrimmed)
     WriteTables({u"收银清单|\"  Sal_List \""_s});
     Open(Window);
     Press(Qt::Key_Space);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(TakeStatements(), QStringList{u"DELETE FROM Sal_List"_s});
 
     WriteTables({u"收银清单|Fee_List"_s}); // changed while the window is open
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(TakeStatements(), QStringList{u"DELETE FROM Fee_List"_s});
@@ -216,7 +216,7 @@ TEST_F(ClearingWindow, ALineWithoutATableNameFailsAndWhatWasClearedStaysCleared)
     Open(Window);
     Press(Qt::Key_A, Qt::AltModifier);
     EXPECT_EQ(Ticks(), u"111"_s);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.ExpectContaining(u"SQL syntax"_s);
     Submit();
     EXPECT_EQ(TakeStatements(), (QStringList{u"DELETE FROM Sal_List"_s, u"DELETE FROM "_s}));
@@ -231,12 +231,12 @@ TEST_F(ClearingWindow, ATableThatIsNotThereIsToldInTheServersWords)
     WriteTables({u"收银清单|Sal_List"_s, u"没有的|Nirgends"_s, u"引号|Fee_List'"_s});
     Open(Window);
     Lines()->item(1)->setCheckState(Qt::Checked);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.ExpectContaining(u"Nirgends' doesn't exist"_s);
     Submit();
     Lines()->item(1)->setCheckState(Qt::Unchecked);
     Lines()->item(2)->setCheckState(Qt::Checked);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.ExpectContaining(u"SQL syntax"_s);
     Submit();
     EXPECT_EQ(Left(), u"2 1 3"_s);
@@ -263,7 +263,7 @@ TEST_F(ClearingWindow, EachStatementThatFailsEndsItWithoutALogRowAndWithoutTheLa
             u"DELETE FROM Sal_List; DELETE FROM Fee_List; INSERT INTO Sal_List (SalNo) VALUES ('1'),('2');"
             "INSERT INTO Fee_List (FeeNo) VALUES ('1')"_s);
         FailStatement(each.statement, each.how);
-        boxes.ExpectQuestion(Question, true);
+        boxes.ExpectDestroying(Question, true);
         boxes.ExpectContaining(each.words);
         boxes.WhileOpen([] { EXPECT_EQ(Windows().Find(u"frmScroll"_s), nullptr); });
         Submit();
@@ -271,7 +271,7 @@ TEST_F(ClearingWindow, EachStatementThatFailsEndsItWithoutALogRowAndWithoutTheLa
         EXPECT_FALSE(Session::WindowSlotFree) << "this window is still open";
     }
     FailStatement(1, Refusal::LostLink);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.ExpectContaining(u"erver"_s);
     Submit();
     EXPECT_EQ(Left(), u"0 0 3"_s);
@@ -286,7 +286,7 @@ TEST_F(ClearingWindow, TheProgressTellsWhatIsBeingClearedAndMovesOnEveryLine)
     Lines()->item(2)->setCheckState(Qt::Checked);
     QStringList seen;
     WatchStatements([&seen](const QString& statement) { seen << statement + u" : "_s + Progress(); });
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.WhileOpen([] { EXPECT_EQ(Windows().Find(u"frmScroll"_s), nullptr) << "asked before it shows"; });
     boxes.Expect(Done);
     Submit();
@@ -315,7 +315,7 @@ TEST_F(ClearingWindow, TheProgressIsPaintedBeforeEachTableIsCleared)
         EXPECT_TRUE(label->window()->windowHandle()->isExposed());
         paints << painter.paints;
     });
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     ASSERT_EQ(paints.size(), 3);
@@ -338,7 +338,7 @@ TEST_F(ClearingWindow, KeysPressedMeanwhileStartNothing)
             qt_handleKeyEvent(window, QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, u" "_s, false, 1);
         }
     });
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_EQ(sent, (QStringList{u"DELETE FROM Sal_List"_s, u"DELETE FROM Fee_List"_s,
@@ -387,7 +387,7 @@ TEST_F(ClearingWindow, TheInstallationsFileListsTablesThatAreThereAndClearsThemA
     Open(Window);
     EXPECT_EQ(Lines()->count(), 14);
     Press(Qt::Key_A, Qt::AltModifier);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     const QStringList statements = TakeStatements();
@@ -408,7 +408,7 @@ TEST_F(ClearingWindow, TakesTheSlotAndFreesItOnClosing)
 {
     OpenThree();
     EXPECT_FALSE(Session::WindowSlotFree);
-    boxes.ExpectQuestion(Question, true);
+    boxes.ExpectDestroying(Question, true);
     boxes.Expect(Done);
     Submit();
     EXPECT_FALSE(Session::WindowSlotFree) << "the progress does not free it";

@@ -1,4 +1,5 @@
 #include "app/StartProgram.h"
+#include "core/common/Handlers.h"
 #include "core/forms/FormWindow.h"
 #include "core/forms/FunctionWindows.h"
 #include "core/forms/ListGrid.h"
@@ -17,6 +18,7 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QDir>
+#include <QFile>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
@@ -882,6 +884,37 @@ TEST_F(MainWindow, EveryMenuOpensByKeyboard)
         active->menu()->close();
         Settle();
     }
+}
+
+TEST_F(MainWindow, ABackgroundFileThatCannotBeReadIsNamedAndKeepsNobodyOut)
+{
+    QFile::remove(ProgramFolder() + u"/Data/BCover.ini"_s);
+    ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, ProgramFolder() + u"/Data/BCover.ini"_s));
+    boxes.ExpectContaining(u"无法读取文件："_s + ProgramFolder() + u"/Data/BCover.ini"_s);
+    boxes.WhileOpen([] { EXPECT_NE(Windows().Find(u"frmMain"_s), nullptr); });
+    RunHandler([] { Windows().Show(u"frmMain"_s, nullptr); });
+    EXPECT_EQ(Count(u"User_Status"_s), 1);
+}
+
+TEST_F(MainWindow, AboutStartsTheFirstToolOfTheDesktopThatStarts)
+{
+    OpenFrame();
+    Choose(u"menuAbout"_s);
+    QWidget* about = Windows().Find(u"frmAbout"_s)->Widget();
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", ProgramFolder().toLocal8Bit());
+    const auto make = [this](const QString& tool, const QString& text) {
+        WriteProgramFile(tool, text);
+        QFile::setPermissions(ProgramFolder() + u'/' + tool,
+                              QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    };
+    make(u"hardinfo2"_s, u"no program"_s); // there, and not to be started
+    boxes.Expect(u"此时系统信息不可用"_s);
+    Click(about->findChild<QLabel*>(u"cmdSysInfo"_s));
+    make(u"hardinfo"_s, u"#!/bin/sh\necho started >'%1/started'\n"_s.arg(ProgramFolder()));
+    Click(about->findChild<QLabel*>(u"cmdSysInfo"_s));
+    qputenv("PATH", path);
+    WaitFor([this] { return QFile::exists(ProgramFolder() + u"/started"_s); });
 }
 
 TEST_F(MainWindow, AboutTellsTheVersionAndWhereNoToolIsFoundSaysSo)

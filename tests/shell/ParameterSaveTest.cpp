@@ -1,3 +1,4 @@
+#include "core/common/Handlers.h"
 #include "core/session/Session.h"
 #include "printing/PrintQueue.h"
 #include "tests/shell/ParameterWindow.h"
@@ -204,12 +205,53 @@ TEST_F(ParameterSave, EveryOffsetMustBeANumberBeforeAnythingIsSaved)
     EXPECT_FALSE(IsOpen());
 }
 
+TEST_F(ParameterSave, AnOffsetThatNoColumnHoldsIsRefusedBeforeAnythingIsSaved)
+{
+    OpenSettings();
+    FillAll();
+    Turn(1);
+    TypeInto(u"txtTopArea_3"_s, u"99999999999999999999"_s);
+    Turn(3);
+    boxes.Expect(u"溢出"_s);
+    Submit();
+    EXPECT_EQ(TakeStatements().filter(u"UPDATE"_s), QStringList());
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(FocusName(), u"txtTopArea_3"_s);
+    EXPECT_EQ(Text(u"txtTopArea_3"_s), u"99999999999999999999"_s);
+    EXPECT_EQ(StepsThatStand(), 0);
+    EXPECT_EQ(CoverIni(u"PicStatus"_s), u"0"_s);
+    EXPECT_EQ(Count(u"DFN_Paper"_s, u"TopArea<>0"_s), 0);
+    EXPECT_EQ(Count(u"ErrInfo"_s, u"ErrDescription='溢出' And ErrSource='保存或修改基本参数'"_s), 1);
+
+    TypeInto(u"txtTopArea_3"_s, u"99999999999999"_s);
+    Submit();
+    EXPECT_FALSE(IsOpen());
+    EXPECT_EQ(Value(u"SELECT TopArea FROM DFN_Paper WHERE PaperID='P04'"_s), u"99999999999999.000000"_s);
+}
+
+TEST_F(ParameterSave, AFileThatCannotBeReadIsNamedOverTheOpenWindow)
+{
+    for (const QString& ini : {u"Data/BCover.ini"_s, u"Config.ini"_s}) {
+        QFile::remove(InFolder(ini));
+        ASSERT_TRUE(QFile::link(u"/proc/self/mem"_s, InFolder(ini)));
+        boxes.ExpectContaining(u"无法读取文件："_s + InFolder(ini));
+        boxes.WhileOpen([this] { EXPECT_TRUE(IsOpen()); });
+        RunHandler([] { Windows().Show(u"frmParameter"_s, nullptr); });
+        Settle();
+        EXPECT_EQ(List(u"cmbPrintStyle_5"_s)->currentText(), u"带框打印"_s)
+            << "the tables are shown all the same";
+        Windows().Find(u"frmParameter"_s)->Widget()->close();
+        Settle();
+        QFile::remove(InFolder(ini));
+        WriteProgramFile(ini, u"[Define]\nPaperSize=9\n"_s);
+    }
+}
+
 TEST_F(ParameterSave, AnOffsetGoesInAsShown)
 {
     OpenSettings();
     TypeInto(u"txtLeftArea_0"_s, u"1,5"_s);
     TypeInto(u"txtTopArea_0"_s, u" 2.345 "_s);
-    TypeInto(u"txtLeftArea_1"_s, u"99999999999999999999999"_s); // cut at twenty
     Submit();
     EXPECT_FALSE(IsOpen());
     EXPECT_EQ(TakeStatements().value(1),
@@ -217,7 +259,6 @@ TEST_F(ParameterSave, AnOffsetGoesInAsShown)
     EXPECT_EQ(Value(u"SELECT LeftArea FROM DFN_Paper WHERE PaperID='P01'"_s), u"1.000000"_s)
         << "the server reads as far as the comma";
     EXPECT_EQ(Value(u"SELECT TopArea FROM DFN_Paper WHERE PaperID='P01'"_s), u"2.345000"_s);
-    EXPECT_EQ(Value(u"SELECT LeftArea FROM DFN_Paper WHERE PaperID='P02'"_s), u"99999999999999.999999"_s);
     OpenSettings();
     EXPECT_EQ(Text(u"txtLeftArea_0"_s), u"1.00"_s);
     EXPECT_EQ(Text(u"txtTopArea_0"_s), u"2.35"_s);

@@ -8,17 +8,22 @@
 
 void BoxRecorder::Expect(const QString& text, const QString& title)
 {
-    m_expected.append({title, text, false, false, false});
+    m_expected.append({title, text, Kind::Information, false, false});
 }
 
 void BoxRecorder::ExpectQuestion(const QString& text, bool answer, const QString& title)
 {
-    m_expected.append({title, text, true, answer, false});
+    m_expected.append({title, text, Kind::Question, answer, false});
+}
+
+void BoxRecorder::ExpectDestroying(const QString& text, bool answer, const QString& title)
+{
+    m_expected.append({title, text, Kind::Destroying, answer, false});
 }
 
 void BoxRecorder::ExpectContaining(const QString& part)
 {
-    m_expected.append({SystemTitle, part, false, false, true});
+    m_expected.append({SystemTitle, part, Kind::Information, false, true});
 }
 
 void BoxRecorder::ExpectFile(const QString& filter, const QString& chosen)
@@ -38,12 +43,17 @@ void BoxRecorder::Verify()
 
 void BoxRecorder::Inform(const QString& title, const QString& text)
 {
-    Meet(title, text, false);
+    Meet(title, text, Kind::Information);
 }
 
 bool BoxRecorder::Ask(const QString& title, const QString& text)
 {
-    return Meet(title, text, true);
+    return Meet(title, text, Kind::Question);
+}
+
+bool BoxRecorder::AskBeforeDestroying(const QString& title, const QString& text)
+{
+    return Meet(title, text, Kind::Destroying);
 }
 
 QString BoxRecorder::ChooseFile(const FileQuestion& question)
@@ -59,7 +69,7 @@ QString BoxRecorder::ChooseFile(const FileQuestion& question)
     return expected.chosen;
 }
 
-bool BoxRecorder::Meet(const QString& title, const QString& text, bool isQuestion)
+bool BoxRecorder::Meet(const QString& title, const QString& text, Kind kind)
 {
     const NestedLoop nested;
     m_seen << text;
@@ -76,6 +86,6 @@ bool BoxRecorder::Meet(const QString& title, const QString& text, bool isQuestio
     else
         EXPECT_EQ(qPrintable(text), std::string(qPrintable(expected.text)));
     EXPECT_EQ(qPrintable(title), std::string(qPrintable(expected.title)));
-    EXPECT_EQ(isQuestion, expected.isQuestion) << qPrintable(text);
+    EXPECT_EQ(static_cast<int>(kind), static_cast<int>(expected.kind)) << qPrintable(text);
     return expected.answer;
 }

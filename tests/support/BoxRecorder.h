@@ -16,6 +16,8 @@ public:
     void Expect(const QString& text, const QString& title = SystemTitle);
     /// The next box is a question with this text, answered like this.
     void ExpectQuestion(const QString& text, bool answer, const QString& title = SystemTitle);
+    /// The same, and 否 is its default, since it destroys.
+    void ExpectDestroying(const QString& text, bool answer, const QString& title = SystemTitle);
     /// The next box is an information box whose text contains this (for driver texts).
     void ExpectContaining(const QString& part);
     /// A file dialog with this filter, in which this path is chosen; an empty one cancels it.
@@ -30,19 +32,21 @@ public:
 
     void Inform(const QString& title, const QString& text) override;
     bool Ask(const QString& title, const QString& text) override;
+    bool AskBeforeDestroying(const QString& title, const QString& text) override;
     QString ChooseFile(const FileQuestion& question) override;
     /// The last file dialog.
     const FileQuestion& LastFileQuestion() const { return m_lastFileQuestion; }
 
 private:
+    enum class Kind { Information, Question, Destroying };
     struct Expected {
         QString title;
         QString text;
-        bool isQuestion = false;
+        Kind kind = Kind::Information;
         bool answer = false;
         bool isPart = false;
     };
-    bool Meet(const QString& title, const QString& text, bool isQuestion);
+    bool Meet(const QString& title, const QString& text, Kind kind);
 
     QList<Expected> m_expected;
     struct ExpectedFile {

@@ -96,7 +96,7 @@ void WindowTest::BeforeStatement(const QString& statement)
 void WindowTest::Sabotage(const QString& statement)
 {
     const QStringList words = statement.split(u' ');
-    const QString verb = words[0];
+    const QString& verb = words[0];
     const QString table = verb == u"UPDATE"   ? words[1]
                           : verb == u"SELECT" ? statement.section(u" FROM "_s, 1).section(u' ', 0, 0)
                                               : words[2];

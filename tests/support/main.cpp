@@ -1,3 +1,4 @@
+#include "core/common/HeldKeys.h"
 #include "core/forms/Skin.h"
 #include "tests/support/PrintServer.h"
 #include "tests/support/TestServer.h"
@@ -33,6 +34,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     InstallSkin(application);
+    WatchHeldKeys(application);
     PrintServer::UseNone();
     ::testing::InitGoogleTest(&argc, argv);
     const int result = RUN_ALL_TESTS();

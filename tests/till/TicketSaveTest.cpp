@@ -262,6 +262,58 @@ TEST_F(TicketSave, NegativePiecesGoBackToTheLot)
     EXPECT_EQ(NumSal(u"A-001"_s), u"105"_s);
 }
 
+TEST_F(TicketSave, ItsKeyFirstLeavesTheFieldAndTheNumberTypedOverIsLookedUp)
+{
+    TypeTicket();
+    GoTo(u"txtPRDNo"_s);
+    Type(u"B-001"_s);
+    boxes.Expect(u"押包装必须填写！"_s); // of B-001, which is now the lot
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(Text(u"txtPRDName"_s), u"蜜橘"_s);
+    EXPECT_EQ(FocusName(), u"txtPerForegift"_s);
+    ExpectNothingWritten();
+    Type(u"5"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(TicketRow(FirstNo, u"PRDNo,PRDName,Num,ForegiftAmount"_s),
+              (QStringList{u"B-001"_s, u"蜜橘"_s, u"10"_s, u"50"_s}));
+    EXPECT_EQ(NumSal(u"A-001"_s), u"100"_s);
+    EXPECT_EQ(NumSal(u"B-001"_s), u"190"_s);
+}
+
+TEST_F(TicketSave, ItsKeySavesNothingWhereTheFieldRefuses)
+{
+    TypeTicket();
+    GoTo(u"txtPRDNo"_s);
+    Type(u"Z-9"_s);
+    boxes.Expect(u"该编号不存在或已结算，请重新输入！"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
+    EXPECT_EQ(Text(u"txtPRDNo"_s), QString());
+    boxes.Expect(u"编号不能为空！"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    Enter(u"txtPRDNo"_s, u"A-001"_s);
+    GoTo(u"txtSalesID"_s);
+    Type(u"99"_s);
+    boxes.Expect(u"不存在的工号!"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"txtSalesID"_s);
+    ExpectNothingWritten();
+}
+
+TEST_F(TicketSave, ItsKeyCompletesAFigureAClickDoesNot)
+{
+    TypeTicket({.num = u"2"_s, .upr = u"1.005"_s});
+    GoTo(u"txtUPR"_s);
+    Type(u"1.005"_s);
+    Press(Qt::Key_S, Qt::AltModifier);
+    EXPECT_EQ(TicketRow(FirstNo, u"UPR"_s), QStringList{u"1.01"_s});
+    TypeTicket({.num = u"2"_s});
+    GoTo(u"txtUPR"_s);
+    Type(u"1.005"_s);
+    ClickSave();
+    EXPECT_EQ(TicketRow(u"01260309002"_s, u"UPR"_s), QStringList{u"1.005"_s});
+}
+
 TEST_F(TicketSave, WithoutALotLookedUpTheTicketIsRefused)
 {
     Press(Qt::Key_Return);
@@ -269,7 +321,7 @@ TEST_F(TicketSave, WithoutALotLookedUpTheTicketIsRefused)
     Box(u"txtUPR"_s)->setText(u"3"_s);
     Box(u"txtSalesID"_s)->setText(u"11"_s);
     boxes.Expect(u"该编号已被结算，不能进行收银处理，请确认。"_s);
-    Press(Qt::Key_S, Qt::AltModifier);
+    ClickSave();
     EXPECT_EQ(FocusName(), u"txtPRDNo"_s);
     ExpectNothingWritten();
 }
@@ -382,7 +434,7 @@ TEST_F(TicketSave, TheLotOutlivesItsTicketSoAnEmptyNumberWritesNothingButMovesTh
     Box(u"txtSalesID"_s)->setText(u"11"_s);
     List(u"cmbCheckStatus"_s)->setCurrentIndex(1);
     TakeStatements();
-    Press(Qt::Key_S, Qt::AltModifier);
+    ClickSave();
     const QStringList sent = TakeStatements();
     EXPECT_EQ(sent.value(0), u"SELECT Deadline FROM Sys_Define"_s);
     EXPECT_EQ(Count(u"Sal_List"_s), 1);

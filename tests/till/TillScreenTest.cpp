@@ -57,7 +57,7 @@ protected:
         Press(Qt::Key_Return);
         Box(u"txtUPR"_s)->setText(u"3"_s);
         Box(u"txtSalesID"_s)->setText(u"11"_s);
-        Press(Qt::Key_S, Qt::AltModifier);
+        ClickSave(); // the key would leave the empty number first, and be refused
     }
 };
 
@@ -217,7 +217,7 @@ TEST_F(TillScreen, ARefusedTicketIsNotSaidToHaveUsedUpANumber)
     Press(Qt::Key_Return);
     Box(u"txtUPR"_s)->setText(u"3"_s);
     boxes.Expect(u"工号不能为空！"_s);
-    Press(Qt::Key_S, Qt::AltModifier);
+    ClickSave();
     EXPECT_EQ(Caption(u"FlblNotice"_s), QString());
 }
 
@@ -270,6 +270,37 @@ TEST_F(TillScreen, AFailedLookupLeavesNoLotInHand)
     EXPECT_EQ(Count(u"Sal_List"_s), 1) << "not a ticket of B-001 off the lot before";
     EXPECT_EQ(NumSal(u"A-001"_s), u"90"_s);
     EXPECT_EQ(NumSal(u"B-001"_s), u"200"_s);
+}
+
+// Totals that could not be worked out
+
+TEST_F(TillScreen, TotalsThatFailedOnTheLastKeystrokeAreWorkedOutBeforeTheSave)
+{
+    TypeTicket({.num = u"10"_s, .upr = u"3"_s});
+    GoTo(u"txtPerPack"_s);
+    FailStatement(1, Refusal::MissingTable);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    Type(u"2"_s);
+    EXPECT_EQ(Text(u"txtTotalAmount"_s), u"¥30.0"_s) << "still without the fee";
+    ClickSave();
+    EXPECT_EQ(TicketRow(u"01260309001"_s, u"Amount,PackAmount,TotalAmount"_s),
+              (QStringList{u"30"_s, u"20"_s, u"50"_s}));
+}
+
+TEST_F(TillScreen, TotalsThatFailAgainAtTheSaveStopIt)
+{
+    TypeTicket();
+    GoTo(u"txtPerPack"_s);
+    Db().Run(u"RENAME TABLE DFN_Round TO Away"_s);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    Type(u"2"_s);
+    boxes.ExpectContaining(u"doesn't exist"_s);
+    ClickSave();
+    EXPECT_EQ(Text(u"txtPerPack"_s), u"2"_s);
+    ExpectNothingWritten();
+    Db().Run(u"RENAME TABLE Away TO DFN_Round"_s);
+    ClickSave();
+    EXPECT_EQ(TicketRow(u"01260309001"_s, u"PackAmount,TotalAmount"_s), (QStringList{u"20"_s, u"52.5"_s}));
 }
 
 namespace {

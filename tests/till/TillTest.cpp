@@ -1,5 +1,7 @@
 #include "tests/till/TillTest.h"
 
+#include "core/forms/LabelButton.h"
+
 #include "printing/Documents.h"
 #include "till/frmSale.h"
 
@@ -89,6 +91,11 @@ void TillTest::Sell(const Sale& sale)
 {
     TypeTicket(sale);
     Press(Qt::Key_Return);
+}
+
+void TillTest::ClickSave()
+{
+    Click(Find<LabelButton>(u"frmSale"_s, u"cmdSubmit"_s));
 }
 
 void TillTest::GoTo(const QString& control)

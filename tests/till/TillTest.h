@@ -39,6 +39,9 @@ protected:
     QString Caption(const QString& label) { return Find<QLabel>(QStringLiteral("frmSale"), label)->text(); }
     QLineEdit* Box(const QString& box) { return Find<QLineEdit>(QStringLiteral("frmSale"), box); }
     QComboBox* List(const QString& combo) { return Find<QComboBox>(QStringLiteral("frmSale"), combo); }
+    /// Saves with the mouse, which leaves no field.
+    void ClickSave();
+
     /// Puts the cursor into a control as a click does.
     void GoTo(const QString& control);
     /// Pastes a text over what the field with the cursor holds.

@@ -28,7 +28,7 @@ void Say(const QString& line)
     std::fflush(stdout);
 }
 
-Tour::Tour(QDir pictures, const QString& database) : m_pictures(std::move(pictures)), m_watch(database)
+Tour::Tour(const QDir& pictures, const QString& database) : m_pictures(pictures), m_watch(database)
 {}
 
 void Tour::Step(const QString& title)

@@ -17,7 +17,7 @@ class Tour : public QObject {
     Q_OBJECT
 
 public:
-    Tour(QDir pictures, const QString& database);
+    Tour(const QDir& pictures, const QString& database);
 
     /// Says what comes next.
     void Step(const QString& title);

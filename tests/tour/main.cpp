@@ -3,6 +3,7 @@
 
 #include "app/StartProgram.h"
 #include "core/base/ProgramFiles.h"
+#include "core/common/HeldKeys.h"
 #include "core/forms/MenuTable.h"
 #include "core/forms/Skin.h"
 #include "core/forms/WindowRegistry.h"
@@ -640,6 +641,7 @@ int main(int argc, char** argv)
     QApplication::setQuitOnLastWindowClosed(false);
     ::testing::InitGoogleTest(); // its failure records are the tour's too
     InstallSkin(application);
+    WatchHeldKeys(application);
     PrintServer::UseNone();
     QCommandLineParser options;
     const QCommandLineOption out(u"out"_s, u"folder of the pictures"_s, u"folder"_s, u"tour"_s);

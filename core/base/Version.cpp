@@ -1,0 +1,6 @@
+#include "core/base/Version.h"
+
+QString ProgramVersion()
+{
+    return QStringLiteral(ORVANE_VERSION);
+}
