@@ -23,6 +23,7 @@
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
 #include "reports/frmExport.h"
+#include "reports/frmReport.h"
 #include "reports/frmSearchCond.h"
 #include "reports/frmSetCol.h"
 #include "reports/frmSetField.h"
@@ -38,6 +39,8 @@
 #include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
 
+#include <type_traits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -45,7 +48,10 @@ namespace {
 template <typename Window>
 void Add(const QString& name)
 {
-    Windows().Register(name, [](QWidget* owner) -> Form* { return new Window(owner); });
+    // Of a window with a LoadBill of its own the function is that class's member, otherwise Form's.
+    constexpr bool loadsBills = !std::is_same_v<decltype(&Window::LoadBill), decltype(&Form::LoadBill)>;
+    Windows().Register(
+        name, [](QWidget* owner) -> Form* { return new Window(owner); }, loadsBills);
 }
 
 } // namespace
@@ -78,6 +84,8 @@ void RegisterWindows()
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
     Add<frmExport>(u"frmExport"_s);
+    Add<frmReport>(u"frmReport"_s);
+    Add<ProgressWindow>(u"frmProgress"_s);
     Add<frmPrint>(u"frmPrint"_s);
     Add<frmSearchCond>(u"frmSearchCond"_s);
     Add<frmSetField>(u"frmSetField"_s);

@@ -77,5 +77,5 @@ private:
 };
 
 /// Sets a list's columns to those of a report; without any the list keeps its columns and rows. See
-/// ReportColumns. @throws DatabaseError
+/// ReportColumns. @throws DatabaseError, TypeMismatchError
 void LoadColumnHeaders(ListGrid* list, const QString& reportName, bool normal);

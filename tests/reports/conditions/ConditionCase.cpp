@@ -1,4 +1,4 @@
-#include "tests/reports/ConditionCase.h"
+#include "tests/reports/conditions/ConditionCase.h"
 
 #include "reports/ConditionFrames.h"
 #include "reports/frmSearchCond.h"

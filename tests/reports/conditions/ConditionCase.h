@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/forms/Form.h"
-#include "tests/reports/ReportProbe.h"
+#include "tests/reports/conditions/ReportProbe.h"
 #include "tests/support/WindowTest.h"
 
 #include <QHash>

@@ -2,7 +2,7 @@
 #include "core/session/Session.h"
 #include "reports/frmSetCol.h"
 #include "reports/frmSetField.h"
-#include "tests/reports/SheetProbe.h"
+#include "tests/reports/paper/SheetProbe.h"
 #include "tests/support/WindowTest.h"
 
 #include <QCheckBox>

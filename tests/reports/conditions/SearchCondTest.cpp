@@ -1,4 +1,4 @@
-#include "tests/reports/ConditionCase.h"
+#include "tests/reports/conditions/ConditionCase.h"
 
 #include "core/base/RunTimeError.h"
 #include "core/common/Handlers.h"

@@ -1,4 +1,4 @@
-#include "tests/reports/SheetProbe.h"
+#include "tests/reports/paper/SheetProbe.h"
 
 #include "reports/ReportListMenu.h"
 #include "reports/ReportPrinting.h"

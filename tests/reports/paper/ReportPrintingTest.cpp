@@ -4,7 +4,7 @@
 #include "printing/PrintQueue.h"
 #include "printing/ctlPreview.h"
 #include "printing/frmPrint.h"
-#include "tests/reports/SheetProbe.h"
+#include "tests/reports/paper/SheetProbe.h"
 #include "tests/support/PrintServer.h"
 #include "tests/support/WindowTest.h"
 
