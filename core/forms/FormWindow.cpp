@@ -148,10 +148,11 @@ void FormWindow::showEvent(QShowEvent* event)
                 box->parentWidget())) // those of dates and numbers see to themselves
             TextLine::Of(box);
     }
-    if (parentWidget() && isWindow())
+    // A window without an owner stands where the desktop puts it, which a move would forestall.
+    if (parentWidget() && isWindow()) {
         move(parentWidget()->window()->geometry().center() - rect().center());
-    if (isWindow())
         StayOnScreen();
+    }
     m_chain.FocusFirst();
 }
 
