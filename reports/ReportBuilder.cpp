@@ -150,7 +150,8 @@ private:
 
     void AddValue(const ShownValue& shown)
     {
-        const Cell kind = m_kinds[static_cast<std::size_t>(m_position + 1)];
+        const int position = m_position + 1;
+        const Cell kind = m_kinds[static_cast<std::size_t>(position)];
         if (kind == Cell::Amount)
             AddAmount(NullToZero(m_record.Fields(shown.field).Value));
         else
