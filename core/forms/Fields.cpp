@@ -10,6 +10,10 @@
 void FocusAndSelect(QWidget* field)
 {
     field->setFocus(Qt::OtherFocusReason);
+    if (auto* date = qobject_cast<QDateEdit*>(field)) {
+        date->setSelectedSection(date->sectionAt(0)); // a day is typed from its year on
+        return;
+    }
     auto* box = qobject_cast<QLineEdit*>(field);
     if (!box)
         return;
@@ -18,8 +22,6 @@ void FocusAndSelect(QWidget* field)
                           -static_cast<int>(box->text().size())); // shows its beginning
     else
         box->selectAll();
-    else if (auto* date = qobject_cast<QDateEdit*>(field))
-        date->setSelectedSection(date->sectionAt(0)); // a day is typed from its year on
 }
 
 void Lock(QLineEdit* field)
