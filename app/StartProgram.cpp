@@ -22,6 +22,11 @@
 #include "masterdata/frmSales.h"
 #include "masterdata/frmStore.h"
 #include "printing/frmPrint.h"
+#include "reports/frmExport.h"
+#include "reports/frmReport.h"
+#include "reports/frmSearchCond.h"
+#include "reports/frmSetCol.h"
+#include "reports/frmSetField.h"
 #include "settlement/frmCheckOut.h"
 #include "settlement/frmCheckOutA.h"
 #include "settlement/frmSetFeeLabel.h"
@@ -34,6 +39,8 @@
 #include "shell/frmUserMenu.h"
 #include "till/frmSale.h"
 
+#include <type_traits>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -41,7 +48,10 @@ namespace {
 template <typename Window>
 void Add(const QString& name)
 {
-    Windows().Register(name, [](QWidget* owner) -> Form* { return new Window(owner); });
+    // Of a window with a LoadBill of its own the function is that class's member, otherwise Form's.
+    constexpr bool loadsBills = !std::is_same_v<decltype(&Window::LoadBill), decltype(&Form::LoadBill)>;
+    Windows().Register(
+        name, [](QWidget* owner) -> Form* { return new Window(owner); }, loadsBills);
 }
 
 } // namespace
@@ -73,7 +83,13 @@ void RegisterWindows()
     Add<frmSale>(u"frmSale"_s);
     Add<frmCheckOut>(u"frmCheckOut"_s);
     Add<frmCheckOutA>(u"frmCheckOutA"_s);
+    Add<frmExport>(u"frmExport"_s);
+    Add<frmReport>(u"frmReport"_s);
+    Add<ProgressWindow>(u"frmProgress"_s);
     Add<frmPrint>(u"frmPrint"_s);
+    Add<frmSearchCond>(u"frmSearchCond"_s);
+    Add<frmSetField>(u"frmSetField"_s);
+    Add<frmSetCol>(u"frmSetCol"_s);
 }
 
 bool StartProgram()

@@ -8,9 +8,6 @@
 #include "lists/ListTables.h"
 #include "ui_frmDataList.h"
 
-#include <QContextMenuEvent>
-#include <QKeyEvent>
-
 #include <algorithm>
 #include <utility>
 
@@ -20,10 +17,10 @@ frmDataList::frmDataList(QWidget* owner)
 {
     ui->setupUi(this);
     setFocusProxy(ui->lvDataList);
-    ui->lvDataList->installEventFilter(this);
-    ui->lvDataList->viewport()->installEventFilter(this);
     connect(ui->lvDataList, &ListGrid::RowChosen, this,
             [this](int row) { RunHandler([this, row] { EditRow(row); }); });
+    connect(ui->lvDataList, &ListGrid::PopupAsked, this,
+            [this](const QPoint& place) { RunHandler([this, place] { ShowPopup(place); }); });
 }
 
 frmDataList::~frmDataList() = default;
@@ -34,29 +31,6 @@ void frmDataList::OnLoad()
     m_searchClause.clear();
     m_list = nullptr; // opened anew, it begins at the first row
     RefreshList();
-}
-
-bool frmDataList::eventFilter(QObject* watched, QEvent* event)
-{
-    if (event->type() == QEvent::ContextMenu) {
-        // Some platforms send this for the menu key too, which the key press below has served already.
-        const auto* request = static_cast<QContextMenuEvent*>(event);
-        if (request->reason() == QContextMenuEvent::Mouse)
-            RunHandler([this, position = request->globalPos()] { ShowPopup(position); });
-        return true;
-    }
-    if (event->type() == QEvent::KeyPress) {
-        const auto* key = static_cast<QKeyEvent*>(event);
-        if (key->key() == Qt::Key_Menu ||
-            (key->key() == Qt::Key_F10 && key->modifiers() == Qt::ShiftModifier)) {
-            const QRect row = ui->lvDataList->RowRect(ui->lvDataList->CurrentRow());
-            RunHandler([this, row] {
-                ShowPopup(ui->lvDataList->viewport()->mapToGlobal(row.bottomLeft() + QPoint(40, 0)));
-            });
-            return true;
-        }
-    }
-    return FormWindow::eventFilter(watched, event);
 }
 
 void frmDataList::ShowPopup(const QPoint& globalPosition)

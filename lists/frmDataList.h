@@ -32,9 +32,6 @@ public:
     void ToolbarSearch() override;
     void ToolbarDelete() override;
 
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void ShowPopup(const QPoint& globalPosition);
     /// Sets the columns, unless they stand already: dragged widths outlive a rebuild.

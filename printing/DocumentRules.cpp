@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <map>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -150,38 +151,31 @@ bool IsLine(const QFrame& frame)
            (frame.frameShape() == QFrame::HLine || frame.frameShape() == QFrame::VLine);
 }
 
-/// The size of a font in points; a form's pixel is 15 twips, a point 20.
-float PointsOf(const QFont& font)
-{
-    return static_cast<float>(font.pointSizeF() > 0 ? font.pointSizeF()
-                                                    : font.pixelSize() * TwipsPerPixel / 20.0);
-}
-
-class FormDrawing {
+class FormReading {
 public:
-    FormDrawing(clsPrint& page, const PageRules& rules, double left, double top)
-        : m_page(page), m_rules(rules), m_left(left), m_top(top)
-    {}
+    FormReading(const PageRules& rules, double left, double top) : m_rules(rules), m_left(left), m_top(top) {}
 
-    void Draw(const QWidget& control)
+    void Read(const QWidget& control)
     {
         if (m_rules.skipsHidden && IsHidden(control))
             return;
         const QString name = control.objectName();
         if (const auto* label = qobject_cast<const QLabel*>(&control)) {
             if (m_rules.printsLabel(name))
-                DrawText(control, label->text(), Y(control.y(), m_rules.label));
+                TakeText(control, label->text(), Y(control.y(), m_rules.label));
         } else if (const auto* box = qobject_cast<const QLineEdit*>(&control)) {
             if (m_rules.printsText(name))
-                DrawText(control, m_rules.hasBlankBehind ? box->text() + u' ' : box->text(), TextY(control));
+                TakeText(control, m_rules.hasBlankBehind ? box->text() + u' ' : box->text(), TextY(control));
         } else if (const auto* combo = qobject_cast<const QComboBox*>(&control)) {
             if (!m_rules.comboName.isEmpty() && name == m_rules.comboName)
-                DrawText(control, combo->currentText(), TextY(control));
+                TakeText(control, combo->currentText(), TextY(control));
         } else if (const auto* frame = qobject_cast<const QFrame*>(&control)) {
             if (IsLine(*frame) && Rules(name))
-                DrawLine(*frame);
+                TakeLine(*frame);
         }
     }
+
+    std::vector<FormMark> TakeMarks() { return std::move(m_marks); }
 
 private:
     bool Rules(const QString& name) const
@@ -207,27 +201,27 @@ private:
         return std::min(control.width(), control.parentWidget()->width() - control.x());
     }
 
-    void DrawText(const QWidget& control, const QString& text, double y)
+    void TakeText(const QWidget& control, const QString& text, double y)
     {
         control.ensurePolished(); // the font that the style sheet gives it, also on a form never shown
-        const QFont& font = control.font();
-        m_page.SetFontName(font.family());
-        m_page.SetFontSize(PointsOf(font));
-        m_page.SetFontBold(font.bold());
-        m_page.SetCurrentX(static_cast<float>(X(control.x())));
-        m_page.SetCurrentY(static_cast<float>(y));
-        m_page.PrintFitted(text, RoomFor(control) * TwipsPerPixel);
+        m_marks.push_back({.x1 = static_cast<float>(X(control.x())),
+                           .y1 = static_cast<float>(y),
+                           .text = text,
+                           .room = RoomFor(control) * TwipsPerPixel,
+                           .font = control.font()});
     }
 
-    void DrawLine(const QFrame& line)
+    void TakeLine(const QFrame& line)
     {
         const QRect place = line.geometry(); // one pixel thick: from its first pixel to its last
-        m_page.PrintLine(
-            static_cast<float>(X(place.left())), static_cast<float>(Y(place.top(), m_rules.line)),
-            static_cast<float>(X(place.right())), static_cast<float>(Y(place.bottom(), m_rules.line)));
+        m_marks.push_back({.isLine = true,
+                           .x1 = static_cast<float>(X(place.left())),
+                           .y1 = static_cast<float>(Y(place.top(), m_rules.line)),
+                           .x2 = static_cast<float>(X(place.right())),
+                           .y2 = static_cast<float>(Y(place.bottom(), m_rules.line))});
     }
 
-    clsPrint& m_page;
+    std::vector<FormMark> m_marks;
     const PageRules& m_rules;
     double m_left;
     double m_top;
@@ -248,10 +242,27 @@ const DocumentRules& RulesOf(Document document)
     return rules.at(document);
 }
 
-void DrawForm(clsPrint& page, const QWidget& form, const PageRules& rules, double left, double top)
+std::vector<FormMark> ReadForm(const QWidget& form, const PageRules& rules, double left, double top)
 {
-    FormDrawing drawing(page, rules, left, top);
+    FormReading reading(rules, left, top);
     const auto controls = form.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     for (const QWidget* control : controls)
-        drawing.Draw(*control);
+        reading.Read(*control);
+    return reading.TakeMarks();
+}
+
+void DrawMarks(clsPrint& page, const std::vector<FormMark>& marks)
+{
+    for (const FormMark& mark : marks) {
+        if (mark.isLine) {
+            page.PrintLine(mark.x1, mark.y1, mark.x2, mark.y2);
+            continue;
+        }
+        page.SetFontName(mark.font.family());
+        page.SetFontSize(PointsOf(mark.font));
+        page.SetFontBold(mark.font.bold());
+        page.SetCurrentX(mark.x1);
+        page.SetCurrentY(mark.y1);
+        page.PrintFitted(mark.text, mark.room);
+    }
 }

@@ -2,9 +2,11 @@
 
 #include "printing/Documents.h"
 
+#include <QFont>
 #include <QString>
 
 #include <functional>
+#include <vector>
 
 class QWidget;
 class clsPrint;
@@ -53,7 +55,21 @@ struct DocumentRules {
 
 const DocumentRules& RulesOf(Document document);
 
-/// Draws the controls of a form in their order, each where it stands, moved by the offsets (twips).
-/// A text box prints 120 twips lower than its top, where the labels beside it have their text.
+/// What a form has on paper: one text or one line, twips.
+struct FormMark {
+    bool isLine = false;
+    float x1 = 0; ///< of a text its upper left corner
+    float y1 = 0;
+    float x2 = 0;
+    float y2 = 0;
+    QString text{};
+    int room = 0; ///< that a text has across
+    QFont font{};
+};
+
+/// The controls of a form in their order, each where it stands, moved by the offsets (twips). A text box
+/// prints 120 twips lower than its top, where the labels beside it have their text.
+std::vector<FormMark> ReadForm(const QWidget& form, const PageRules& rules, double left, double top);
+
 /// @throws RunTimeError when the printer refuses
-void DrawForm(clsPrint& page, const QWidget& form, const PageRules& rules, double left, double top);
+void DrawMarks(clsPrint& page, const std::vector<FormMark>& marks);

@@ -1,5 +1,7 @@
 #include "printing/DrawingSurface.h"
 
+#include "core/base/Twips.h"
+
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextLayout>
@@ -62,6 +64,12 @@ struct LineMetrics {
 };
 
 } // namespace
+
+float PointsOf(const QFont& font)
+{
+    const double ownPixels = double(font.pixelSize()) * TwipsPerPixel / TwipsPerPoint;
+    return static_cast<float>(font.pointSizeF() > 0 ? font.pointSizeF() : ownPixels);
+}
 
 DrawingSurface::DrawingSurface()
 {

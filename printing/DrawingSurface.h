@@ -12,6 +12,10 @@ class QPainter;
 using ColorValue = std::int32_t;
 inline constexpr ColorValue White = 0xFFFFFF;
 
+/// The size of a control's font in points; where a font has pixels instead, they are those of the forms, 15
+/// twips each.
+float PointsOf(const QFont& font);
+
 /// A pen on a page: position, font, colours and line style, and what can be drawn with them. All
 /// coordinates are twips of the printed page, 1440 to the inch; what a twip is on the device is the
 /// device's business. Text is measured in twips of the page too, free of the device's resolution, so

@@ -70,18 +70,16 @@ PrintJob::PrintJob(const QString& title, int paperSizeCode, bool landscape)
 
 PrintJob::~PrintJob() = default;
 
-void PrintJob::HandOver()
+QString PrintJob::HandOver()
 {
     if (!m_document.data().trimmed().endsWith("%%EOF"))
         throw RunTimeError(u"单据没有画完："_s + m_title);
-    if (m_queue->Found() == CupsQueue::State::None) {
-        KeepAsFile();
-        return;
-    }
+    if (m_queue->Found() == CupsQueue::State::None)
+        return KeepAsFile();
     const QString refusal =
         m_queue->Refusal(m_title, m_paper.pageLayout().pageSize(), m_isLandscape, m_document.data());
     if (refusal.isEmpty())
-        return;
+        return {};
     QString file;
     try {
         file = KeepAsFile();

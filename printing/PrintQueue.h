@@ -58,10 +58,11 @@ public:
     /// What to paint on.
     QPdfWriter& Paper() { return m_paper; }
 
-    /// Called once the painter has ended. @throws KeptAsFileError when the queue did not take the document,
+    /// Called once the painter has ended. Answers the file that the document went to where there is no print
+    /// queue, "" when a queue has it. @throws KeptAsFileError when the queue did not take the document,
     /// which then stands in PdfFolder() under the name that the error tells. @throws RunTimeError when the
     /// document is lost: it could not be written there either, or nothing was painted
-    void HandOver();
+    QString HandOver();
 
 private:
     QString KeepAsFile() const;

@@ -66,16 +66,16 @@ void SystemPrinter::NewPage()
     SetCurrentY(0);
 }
 
-void SystemPrinter::EndDoc()
+QString SystemPrinter::EndDoc()
 {
     const std::unique_ptr<OpenJob> ended = std::move(m_job);
     m_hasPageBreak = false;
     SetCurrentX(0);
     SetCurrentY(0);
     if (!ended)
-        return;
+        return {};
     ended->painter.end();
-    ended->job.HandOver();
+    return ended->job.HandOver();
 }
 
 void SystemPrinter::KillDoc()

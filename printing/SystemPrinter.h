@@ -32,10 +32,10 @@ public:
     /// The next sheet. It is put in with the next thing that is drawn, so that no document ends with a
     /// blank one. The pen goes to its corner.
     void NewPage();
-    /// Closes the job and hands it over. Nothing without an open one.
+    /// Closes the job and hands it over. Nothing without an open one. Answers as PrintJob::HandOver.
     /// @throws KeptAsFileError when the queue did not take it and it became a file; RunTimeError when it
     /// is lost
-    void EndDoc();
+    QString EndDoc();
     /// Drops an open job: nothing of it reaches the queue.
     void KillDoc();
 

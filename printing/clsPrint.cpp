@@ -213,12 +213,11 @@ void clsPrint::PrintPicture(const QImage& picture, float x, float y, float width
         m_preview->PaintPicture(picture, x, y, width, height);
 }
 
-void clsPrint::EndDoc()
+QString clsPrint::EndDoc()
 {
     if (m_log)
         m_log->Note(u"end"_s);
-    if (IsPrinter)
-        m_printer.EndDoc();
+    return IsPrinter ? m_printer.EndDoc() : QString();
 }
 
 float clsPrint::CurrentX() const

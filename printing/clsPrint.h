@@ -50,9 +50,9 @@ public:
     /// The next sheet; the preview is wiped instead.
     void NewPage();
     void PrintPicture(const QImage& picture, float x, float y, float width, float height);
-    /// Closes the printer's job; nothing on the preview.
+    /// Closes the printer's job; nothing on the preview. Answers as PrintJob::HandOver.
     /// @throws KeptAsFileError, RunTimeError as SystemPrinter::EndDoc
-    void EndDoc();
+    QString EndDoc();
 
     float CurrentX() const;
     float CurrentY() const;

@@ -206,6 +206,12 @@ void frmMain::OpenListWindow(const QString& window)
         Hold(open);
 }
 
+bool frmMain::IsEntryEnabled(const QString& control) const
+{
+    const auto* entry = menuBar()->findChild<QAction*>(control);
+    return entry && entry->isEnabled();
+}
+
 void frmMain::EnableToolbar(const QStringList& buttons, bool enabled)
 {
     for (const QString& key : buttons)

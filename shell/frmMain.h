@@ -29,6 +29,7 @@ public:
     void OnLoad() override;
     void Hold(Form* window) override;
 
+    bool IsEntryEnabled(const QString& control) const override;
     void EnableToolbar(const QStringList& buttons, bool enabled = true) override;
     // While neither list nor report is open: what needs none.
     void ToolbarNew() override;

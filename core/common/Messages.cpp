@@ -70,7 +70,7 @@ public:
         const bool isChosen = dialog.exec() == QDialog::Accepted;
         if (below)
             below->activateWindow();
-        return isChosen ? dialog.selectedFiles().value(0) : QString();
+        return isChosen ? WithEnding(dialog, question) : QString();
     }
 
 private:
@@ -93,13 +93,26 @@ private:
             filters << parts[i] + u" ("_s + parts[i + 1] + u')';
         dialog.setNameFilters(filters);
         if (question.isSave)
-            dialog.setDefaultSuffix(parts.value(1).section(u'.', -1));
+            // Who writes the file asks: a name can reach him without this dialog.
+            dialog.setOption(QFileDialog::DontConfirmOverwrite);
         const QFileInfo start(question.start);
         dialog.setDirectory(start.isDir()                                ? start.absoluteFilePath()
                             : start.isAbsolute() && start.dir().exists() ? start.absolutePath()
                                                                          : QDir::homePath());
         if (!start.isDir() && !start.fileName().isEmpty())
             dialog.selectFile(start.fileName());
+    }
+
+    /// A name to be written, with the ending of the filter chosen where it has none.
+    static QString WithEnding(const QFileDialog& dialog, const FileQuestion& question)
+    {
+        QString chosen = dialog.selectedFiles().value(0);
+        if (!question.isSave || !QFileInfo(chosen).suffix().isEmpty())
+            return chosen;
+        // The dialog names its filters without their patterns.
+        const QStringList parts = question.filter.split(u'|');
+        const qsizetype caption = std::max<qsizetype>(0, parts.indexOf(dialog.selectedNameFilter()));
+        return chosen + u'.' + parts.value(caption + 1).section(u'.', -1);
     }
 
     static int Run(QChar sign, const QString& title, const QString& text,

@@ -26,8 +26,8 @@ struct FileQuestion {
     QString title;
     QString filter;      ///< captions and patterns in turn: "JPEG Images|*.jpg|GIF Images|*.gif"
     QString start;       ///< the file or folder it starts from; empty: the user's own folder
-    bool isSave = false; ///< a file to be written, with the first pattern's ending where none is typed;
-                         ///< otherwise one that exists
+    bool isSave = false; ///< a file to be written, with the ending of the chosen pattern where none is
+                         ///< typed; whether it may be replaced asks who writes it. Otherwise one that exists
 };
 
 /// A file dialog. The full path that was chosen, empty when none was.

@@ -1,5 +1,6 @@
 #include "core/forms/Fields.h"
 
+#include <QDateEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
@@ -9,6 +10,10 @@
 void FocusAndSelect(QWidget* field)
 {
     field->setFocus(Qt::OtherFocusReason);
+    if (auto* date = qobject_cast<QDateEdit*>(field)) {
+        date->setSelectedSection(date->sectionAt(0)); // a day is typed from its year on
+        return;
+    }
     auto* box = qobject_cast<QLineEdit*>(field);
     if (!box)
         return;

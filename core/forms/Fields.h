@@ -6,7 +6,8 @@ class QLabel;
 class QLineEdit;
 class QWidget;
 
-/// Sets the focus on a control and, where it is a text box, selects the whole text.
+/// Sets the focus on a control and, where it is a text box, selects the whole text; in a date the first part
+/// of it, from where typing goes on to the next.
 void FocusAndSelect(QWidget* field);
 
 /// Locks a field while the window stands: it shows its text, is reached by the keys, takes no typing,

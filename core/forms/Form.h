@@ -24,7 +24,8 @@ public:
 
     /// Puts a key into the window's key field; its Change handler fills the rest.
     virtual void SetKey(const QString& /*key*/) {}
-    /// Loads a saved bill, by its number without "NO.", for adjustment.
+    /// Loads a saved bill, by its number without "NO.", for adjustment. A window that has this is registered
+    /// as one that loads bills.
     virtual void LoadBill(const QString& /*number*/) {}
     /// Takes the name that a picker was opened for.
     virtual void TakeName(const QString& /*name*/) {}
@@ -34,6 +35,8 @@ public:
     virtual void SetSearchClause(const QString& /*clause*/) {}
     /// Shows another window inside this one's work area; only the main window has one.
     virtual void Hold(Form* /*window*/) {}
+    /// True when the menu entry of this name ("menuESale") is on; only the main window has menus.
+    virtual bool IsEntryEnabled(const QString& /*control*/) const { return false; }
     /// Switches the toolbar's buttons of these keys ("mnuPrint"); only the main window has a toolbar.
     virtual void EnableToolbar(const QStringList& /*buttons*/, bool /*enabled*/ = true) {}
 

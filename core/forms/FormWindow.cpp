@@ -132,6 +132,12 @@ QList<QLineEdit*> FormWindow::TextBoxes() const
     return boxes;
 }
 
+void FormWindow::FreeSlot()
+{
+    if (m_slot != SlotUse::Untouched)
+        Session::WindowSlotFree = true;
+}
+
 void FormWindow::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
@@ -142,10 +148,11 @@ void FormWindow::showEvent(QShowEvent* event)
                 box->parentWidget())) // those of dates and numbers see to themselves
             TextLine::Of(box);
     }
-    if (parentWidget() && isWindow())
+    // A window without an owner stands where the desktop puts it, which a move would forestall.
+    if (parentWidget() && isWindow()) {
         move(parentWidget()->window()->geometry().center() - rect().center());
-    if (isWindow())
         StayOnScreen();
+    }
     m_chain.FocusFirst();
 }
 
@@ -164,8 +171,7 @@ void FormWindow::closeEvent(QCloseEvent* event)
     if (!event->isAccepted() || m_isClosed)
         return;
     m_isClosed = true;
-    if (m_slot != SlotUse::Untouched)
-        Session::WindowSlotFree = true;
+    FreeSlot();
     Windows().Unloaded(this);
     DestroyWhenIdle(this);
 }

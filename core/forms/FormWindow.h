@@ -61,6 +61,9 @@ protected:
     /// The text boxes of the form in their order, without those inside other controls.
     QList<QLineEdit*> TextBoxes() const;
 
+    /// What closing does to the slot.
+    virtual void FreeSlot();
+
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 

@@ -50,6 +50,29 @@ void ShowRecord(const QString& window, const QString& key)
     form->SetKey(key);
 }
 
+void ShowBill(const QString& window, const QString& number)
+{
+    if (!Windows().LoadsBills(window)) {
+        TellNotProvided();
+        return;
+    }
+    Form* form = Windows().Load(window, MainFrame());
+    if (!form)
+        return;
+    try {
+        form->LoadBill(number);
+    } catch (...) {
+        form->Widget()->close();
+        throw;
+    }
+    Windows().ShowModal(window, MainFrame());
+}
+
+bool IsEntryEnabled(const QString& control)
+{
+    return Frame() && Frame()->IsEntryEnabled(control);
+}
+
 QString SettlementWindow()
 {
     return Session::CheckOutStyle == u"1" ? u"frmCheckOutA"_s : u"frmCheckOut"_s;

@@ -20,6 +20,15 @@ void TellNotProvided();
 /// without that window says so.
 void ShowRecord(const QString& window, const QString& key);
 
+/// Shows a window for the adjustment of a saved bill, by its number without "NO.", and returns when it is
+/// closed. A window that cannot load bills, or that the program does not have, is said to be missing.
+/// @throws what the loading throws; the window is then closed again
+void ShowBill(const QString& window, const QString& number);
+
+/// True when the main window's menu entry of this name ("menuESale") is on for the user; false before there
+/// is a main window.
+bool IsEntryEnabled(const QString& control);
+
 /// The settlement window of this stall, one of the two layouts, as Session::CheckOutStyle says.
 QString SettlementWindow();
 

@@ -12,6 +12,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QDateEdit>
 #include <QKeyEvent>
 #include <QLineEdit>
 
@@ -181,6 +182,11 @@ FieldRule& KeyChain::Check(QAbstractButton* check)
     return rule;
 }
 
+FieldRule& KeyChain::Date(QDateEdit* date)
+{
+    return Append(date);
+}
+
 FieldRule& KeyChain::List(QAbstractItemView* list)
 {
     return Append(list);
@@ -268,6 +274,8 @@ void KeyChain::MoveOn(FieldRule& rule, bool byEnter)
 {
     if (rule.IsHeldBack())
         return;
+    if (auto* date = qobject_cast<QDateEdit*>(rule.m_control))
+        date->interpretText(); // the chain has taken the key that would have ended the typing
     if (rule.m_beforeMovingOn)
         rule.m_beforeMovingOn();
     const FieldRule* next = Neighbour(rule, 1);

@@ -14,6 +14,7 @@
 class QAbstractButton;
 class QAbstractItemView;
 class QComboBox;
+class QDateEdit;
 class QKeyEvent;
 class QLineEdit;
 class QWidget;
@@ -106,8 +107,13 @@ public:
     FieldRule& Combo(QComboBox* combo);
     /// A check box or a radio button; Left and Right choose among radio buttons side by side.
     FieldRule& Check(QAbstractButton* check);
+    /// In a date Up and Down move between the fields, as in a text box.
+    FieldRule& Date(QDateEdit* date);
     /// In a list Up and Down choose; Up leaves it from the first row only.
     FieldRule& List(QAbstractItemView* list);
+
+    /// The control appended last, for a window whose controls are data.
+    FieldRule& Last() { return *m_rules.back(); }
 
     /// Puts the focus back on a control once the present event has run its course, with its text
     /// selected. Until then nothing counts as left.

@@ -4,6 +4,7 @@
 #include "core/common/ReportColumns.h"
 #include "core/forms/SheetModel.h"
 
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPainter>
@@ -14,7 +15,8 @@
 
 namespace {
 
-constexpr int RowMargin = 2; // pixels above and below the text of a row
+constexpr int PopupIndent = 40; // pixels from the left edge of the row whose popup a key opens
+constexpr int RowMargin = 2;    // pixels above and below the text of a row
 
 /// Rows of one height, from the font alone: the style's own figure is another one before the window is
 /// first shown than after it.
@@ -152,9 +154,20 @@ void ListGrid::MakeCurrent(int row)
     selectionModel()->setCurrentIndex(Cell(std::min(row, RowCount() - 1)), QItemSelectionModel::NoUpdate);
 }
 
+void ListGrid::contextMenuEvent(QContextMenuEvent* event)
+{
+    // Some platforms send this for the menu key too, which the key press has served already.
+    if (event->reason() == QContextMenuEvent::Mouse)
+        emit PopupAsked(event->globalPos());
+}
+
 void ListGrid::keyPressEvent(QKeyEvent* event)
 {
     const int key = event->key();
+    if (key == Qt::Key_Menu || (key == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)) {
+        emit PopupAsked(viewport()->mapToGlobal(RowRect(CurrentRow()).bottomLeft() + QPoint(PopupIndent, 0)));
+        return;
+    }
     if ((key == Qt::Key_Return || key == Qt::Key_Enter) && SelectedRow() >= 0) {
         emit RowChosen(SelectedRow());
         return;

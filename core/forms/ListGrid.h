@@ -58,8 +58,11 @@ public:
 signals:
     /// Double click on a row, or Enter in the list.
     void RowChosen(int row);
+    /// The right button, the menu key or Shift+F10: a popup belongs here, in global coordinates.
+    void PopupAsked(const QPoint& globalPosition);
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void drawRow(QPainter* painter, const QStyleOptionViewItem& option,
                  const QModelIndex& index) const override;
@@ -74,5 +77,5 @@ private:
 };
 
 /// Sets a list's columns to those of a report; without any the list keeps its columns and rows. See
-/// ReportColumns. @throws DatabaseError
+/// ReportColumns. @throws DatabaseError, TypeMismatchError
 void LoadColumnHeaders(ListGrid* list, const QString& reportName, bool normal);

@@ -12,7 +12,7 @@ class ProgressWindow;
 
 /// Shows how far a long run has come, over every other window. It paints itself while the run goes on;
 /// of keys and clicks it takes Esc alone, and that where the run allows it. It is known under the names of
-/// those who show it: frmScroll for the clearing of tables.
+/// those who show it: frmScroll for the clearing of tables, frmProgress for a report.
 ///
 /// The run asks it after each step: `for (…) { …; progress->Reach(++done); if (progress->IsCancelled()) … }`.
 class ProgressWindow : public FormWindow {

@@ -8,9 +8,13 @@
 
 #include <utility>
 
-void WindowRegistry::Register(const QString& name, const Factory& factory)
+void WindowRegistry::Register(const QString& name, const Factory& factory, bool loadsBills)
 {
     m_factories.insert(name, factory);
+    if (loadsBills)
+        m_billWindows.insert(name);
+    else
+        m_billWindows.remove(name);
 }
 
 Form* WindowRegistry::Load(const QString& name, QWidget* owner)

@@ -3,6 +3,7 @@
 #include "core/forms/Form.h"
 
 #include <QHash>
+#include <QSet>
 #include <QString>
 
 #include <functional>
@@ -15,9 +16,12 @@ class WindowRegistry {
 public:
     using Factory = std::function<Form*(QWidget* owner)>;
 
-    /// Makes a window known. Its object name becomes the name.
-    void Register(const QString& name, const Factory& factory);
+    /// Makes a window known. Its object name becomes the name. `loadsBills` where it has a LoadBill of its
+    /// own.
+    void Register(const QString& name, const Factory& factory, bool loadsBills = false);
     bool Knows(const QString& name) const { return m_factories.contains(name); }
+    /// True for a window that can be asked for a saved bill.
+    bool LoadsBills(const QString& name) const { return m_billWindows.contains(name); }
 
     /// The window while it is loaded, shown or not; nullptr otherwise.
     Form* Find(const QString& name) const { return m_loaded.value(name); }
@@ -58,6 +62,7 @@ private:
     };
 
     QHash<QString, Factory> m_factories;
+    QSet<QString> m_billWindows;
     std::vector<ModalLoop> m_modalLoops; ///< windows shown modally, the topmost last
     QHash<QString, Form*> m_loaded;
     std::function<void()> m_allUnloaded;

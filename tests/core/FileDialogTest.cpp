@@ -2,6 +2,7 @@
 #include "tests/support/WindowTest.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileDialog>
 
@@ -96,4 +97,36 @@ TEST_F(FileDialog, SavingTakesANewNameAndGivesItTheEndingOfTheFilter)
                                       Press(Qt::Key_Return);
                                   });
     EXPECT_EQ(chosen, Path(u"销售表.xls"_s));
+}
+
+TEST_F(FileDialog, SavingGivesTheEndingOfTheFilterThatWasChosen)
+{
+    const QString chosen = Answer({.title = u"导出"_s,
+                                   .filter = u"Excel文件 （*.xls）|*.xls|Excel 2007文件 （*.xlsx）|*.xlsx"_s,
+                                   .start = ProgramFolder(),
+                                   .isSave = true},
+                                  [](QFileDialog& dialog) {
+                                      Type(u"销售表"_s);
+                                      auto* types = dialog.findChild<QComboBox*>(u"fileTypeCombo"_s);
+                                      ASSERT_NE(types, nullptr);
+                                      while (QApplication::focusWidget() != types)
+                                          Press(Qt::Key_Tab);
+                                      Press(Qt::Key_Down);
+                                      EXPECT_EQ(types->currentIndex(), 1);
+                                      while (FocusName() != u"fileNameEdit")
+                                          Press(Qt::Key_Tab);
+                                      Press(Qt::Key_Return);
+                                  });
+    EXPECT_EQ(chosen, Path(u"销售表.xlsx"_s));
+}
+
+TEST_F(FileDialog, SavingOverAFileIsLeftToWhoWritesIt)
+{
+    const QString chosen =
+        Answer({.title = u"导出"_s, .filter = u"文字|*.txt"_s, .start = ProgramFolder(), .isSave = true},
+               [](QFileDialog&) {
+                   Type(u"c.txt"_s);
+                   Press(Qt::Key_Return);
+               });
+    EXPECT_EQ(chosen, Path(u"c.txt"_s));
 }

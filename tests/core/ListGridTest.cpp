@@ -1,4 +1,5 @@
 #include "core/forms/ListGrid.h"
+#include "core/base/RunTimeError.h"
 #include "core/gateway/DataGateway.h"
 #include "tests/core/ProbeForm.h"
 #include "tests/support/WindowTest.h"
@@ -244,20 +245,33 @@ TEST_F(Grid, AReportWithoutColumnsKeepsTheHeadersThereAre)
     EXPECT_THROW(LoadColumnHeaders(list, u"'"_s, true), DatabaseError);
 }
 
-TEST_F(Grid, AWidthThatMakesNoSenseDoesNoHarm)
+TEST_F(Grid, AWidthOutOfAllProportionDoesNoHarm)
 {
     Db().Run(
         u"INSERT INTO DFN_RptCol (RptName,ColID,ColName,ColWidth,ColAlign,ColStatus,ColOrder) VALUES "
-        "('R','01','a','abc','9','1',1),('R','02','b','-500','1','1',2),('R','03','c','"
-        "99999999999999999999','2','1',3),"
-        "('R','04','d','900','0','1',4),('R','05','e','32766','0','1',5),('R','06','f','32768','0','1',6)"_s);
+        "('R','02','b','-500','1','1',2),('R','03','c','99999999999999999999','2','1',3),"
+        "('R','04','d','900','0','1',4),('R','05','e','32766','9','1',5),('R','06','f','32768','0','1',6)"_s);
     LoadColumnHeaders(list, u"R"_s, true);
-    EXPECT_EQ(Headers(), (QStringList{QString(), u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s, u"f"_s}));
+    EXPECT_EQ(Headers(), (QStringList{QString(), u"b"_s, u"c"_s, u"d"_s, u"e"_s, u"f"_s}));
     QList<int> widths;
-    for (int i = 1; i <= 6; ++i)
+    for (int i = 1; i <= 5; ++i)
         widths << list->ColumnWidthTwips(i);
-    EXPECT_EQ(widths, (QList<int>{0, 0, 32767, 900, 32766, 32767}));
-    EXPECT_EQ(list->columnWidth(3), 32767 / 15);
+    EXPECT_EQ(widths, (QList<int>{0, 32767, 900, 32766, 32767}));
+    EXPECT_EQ(list->columnWidth(2), 32767 / 15);
+}
+
+TEST_F(Grid, AWidthThatIsNoNumberIsRefusedAndTheHeadersStay)
+{
+    TwoRows();
+    for (const QString& width : {u"abc"_s, u"12abc"_s, QString()}) {
+        Db().Run(u"REPLACE INTO DFN_RptCol (RptName,ColID,ColName,ColWidth,ColStatus,ColOrder) VALUES "
+                 "('R','01','a','%1','1',1)"_s.arg(width));
+        EXPECT_THROW(LoadColumnHeaders(list, u"R"_s, true), TypeMismatchError) << width.toStdString();
+    }
+    EXPECT_EQ(Headers(), (QStringList{QString(), u"编号"_s, u"金额"_s}));
+    EXPECT_EQ(list->RowCount(), 2);
+    Db().Run(u"UPDATE DFN_RptCol SET ColStatus='0' WHERE RptName='R'"_s);
+    LoadColumnHeaders(list, u"R"_s, true); // a hidden column's width is nobody's business
 }
 
 TEST_F(Grid, OnlyADragTurnsPixelsIntoTwips)

@@ -332,10 +332,7 @@ TEST_F(PrintedForm, ThePreviewStandsInTheMainWindowAndItsExitUnloadsIt)
     ASSERT_NE(area, nullptr);
     EXPECT_TRUE(area->isAncestorOf(&Printer()));
 
-    for (const QString& key : {u"mnuSetup"_s, u"mnuPrint"_s}) {
-        EXPECT_FALSE(Printer().findChild<QAction*>(key)->isVisible());
-        Printer().findChild<QAction*>(key)->trigger();
-    }
+    Printer().findChild<QAction*>(u"mnuSetup"_s)->trigger();
     Settle();
     EXPECT_TRUE(Printer().isVisible());
     EXPECT_EQ(PdfFiles().size(), 0);
@@ -360,20 +357,66 @@ TEST_F(PrintedForm, ThePreviewsStripHasOneGroundAndNothingThatDoesNothing)
     Print(u"ticket"_s, PrintMode::Preview);
     Settle();
     const auto* strip = Printer().findChild<QToolBar*>(u"menuBar"_s);
-    QStringList seen;
-    for (const QAction* action : strip->actions()) {
-        if (action->isVisible())
-            seen << action->objectName();
+    for (const auto& [key, isSeen] :
+         {std::pair{u"mnuPrint"_s, true}, {u"mnuSetup"_s, false}, {u"mnuExit"_s, true}})
+        EXPECT_EQ(Printer().findChild<QAction*>(key)->isVisible(), isSeen) << key.toStdString();
+    for (const QString& name : {u"cmbmnuZoom"_s, u"cbmPageRec"_s, u"lblZoom"_s, u"lblPage"_s, u"lblKeys"_s}) {
+        const auto* part = Printer().findChild<QWidget*>(name);
+        EXPECT_TRUE(part->isVisible() && strip->isAncestorOf(part)) << name.toStdString();
+        EXPECT_GE(part->width(), part->minimumSizeHint().width()) << name.toStdString();
     }
-    EXPECT_EQ(seen, QStringList{u"mnuExit"_s});
-    for (const QString& name : {u"cmbmnuZoom"_s, u"cbmPageRec"_s, u"Command1"_s})
-        EXPECT_FALSE(Printer().findChild<QWidget*>(name)->isVisible()) << name.toStdString();
+    EXPECT_FALSE(Printer().findChild<QWidget*>(u"Command1"_s)->isVisible());
 
     const QImage window = Printer().grab().toImage();
-    const int height = strip->height() / 2;
-    for (const int x : {window.width() / 4, window.width() / 2, window.width() - 3})
-        EXPECT_EQ(window.pixel(x, height), window.pixel(window.width() / 3, height)) << x;
+    for (const int x : {window.width() - 3, window.width() - 40}) // behind its last entry
+        EXPECT_EQ(window.pixel(x, strip->height() / 2), window.pixel(window.width() - 20, 3)) << x;
     EXPECT_EQ(strip->geometry().right(), Printer().rect().right());
+}
+
+TEST_F(PrintedForm, ThePreviewPrintsTheSheetThatItShowsAndTellsOfItsFile)
+{
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, PrintMode::Preview);
+    const QStringList shown = TakeDrawing();
+    FormOf(u"ticket"_s)->close(); // and with it what was typed
+    Settle();
+    Printer().activateWindow();
+    Printer().setFocus();
+    Settle();
+    boxes.ExpectContaining(u"这台电脑没有打印机，收款清单存为 PDF 文件：\n"_s + PdfFolder());
+    Press(Qt::Key_P, Qt::AltModifier);
+    boxes.Verify();
+    EXPECT_EQ(PdfFiles().size(), 1);
+    EXPECT_TRUE(boxes.Seen().value(0).endsWith(PdfFiles().value(0)));
+    QStringList printed = TakeDrawing();
+    printed.removeAll(u"new page"_s); // after the last thing: no sheet of its own
+    EXPECT_EQ(printed.value(0), u"start printer 1"_s);
+    EXPECT_EQ(printed.mid(1), shown.mid(1));
+}
+
+TEST_F(PrintedForm, AnotherZoomDrawsTheSamePageLarger)
+{
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, PrintMode::Preview);
+    const QStringList once = TakeDrawing();
+    const QSize size = Printer().PagePreview().Picture().size();
+    FormOf(u"ticket"_s)->close();
+    Settle();
+    Printer().activateWindow();
+    Settle();
+    Press(Qt::Key_Z, Qt::AltModifier);
+    EXPECT_EQ(FocusName(), u"cmbmnuZoom"_s);
+    Press(Qt::Key_Down); // from 1 to 2
+    EXPECT_EQ(Printer().PagePreview().Picture().size(), 2 * size);
+    const QStringList twice = TakeDrawing();
+    EXPECT_EQ(twice.value(0), u"start preview 2 11907 16832"_s);
+    EXPECT_EQ(twice.mid(1), once.mid(1));
+    EXPECT_EQ(Printer().findChild<QComboBox*>(u"cbmPageRec"_s)->count(), 1);
+
+    Fill(u"ticket"_s);
+    Print(u"ticket"_s, PrintMode::Preview); // the next one begins at its size
+    EXPECT_EQ(Printer().findChild<QComboBox*>(u"cmbmnuZoom"_s)->currentText(), u"1"_s);
+    EXPECT_EQ(Printer().PagePreview().Picture().size(), size);
 }
 
 TEST_F(PrintedForm, EscapeLeavesThePreview)

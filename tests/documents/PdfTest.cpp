@@ -1,6 +1,7 @@
 #include "tests/documents/DocumentTest.h"
 
 #include "core/base/Twips.h"
+#include "tests/support/PrintServer.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,17 +54,6 @@ QStringList ChineseTexts(const QStringList& drawing)
     return texts;
 }
 
-/// With ORVANE_DOCUMENTS set to a folder, the documents stay there to be looked at.
-void Keep(const QString& file, const QString& name)
-{
-    const QString folder = qEnvironmentVariable("ORVANE_DOCUMENTS");
-    if (folder.isEmpty())
-        return;
-    QDir().mkpath(folder);
-    QFile::remove(folder + u'/' + name);
-    EXPECT_TRUE(QFile::copy(file, folder + u'/' + name));
-}
-
 class PdfOf : public DocumentTest, public ::testing::WithParamInterface<QString> {
 protected:
     void ExpectOnePageWithAllTexts(PrintMode mode)
@@ -73,7 +63,7 @@ protected:
         const QStringList files = PdfFiles();
         ASSERT_EQ(files.size(), 1);
         const bool isStationery = mode == PrintMode::Stationery;
-        Keep(files[0], GetParam() + (isStationery ? u"-stationery.pdf"_s : u"-sheet.pdf"_s));
+        KeepDocument(files[0], GetParam() + (isStationery ? u"-stationery.pdf"_s : u"-sheet.pdf"_s));
 
         EXPECT_TRUE(OutputOf(u"pdfinfo"_s, {files[0]}).contains(QRegularExpression(u"Pages: +1\n"_s)));
         const QString fonts = OutputOf(u"pdffonts"_s, {files[0]});
@@ -130,8 +120,8 @@ protected:
         Print(document, mode);
         const QStringList files = PdfFiles();
         ASSERT_EQ(files.size(), 1);
-        Keep(files[0],
-             document + u'-' + control + (mode == PrintMode::Sheet ? u"-sheet.pdf"_s : u"-stationery.pdf"_s));
+        KeepDocument(files[0], document + u'-' + control +
+                                   (mode == PrintMode::Sheet ? u"-sheet.pdf"_s : u"-stationery.pdf"_s));
         const double end = RightEnd(files[0], text);
         EXPECT_GT(end, rightEdge - 0.03 * width) << "narrowed more than needed, or not there";
         EXPECT_LE(end, rightEdge + 1);

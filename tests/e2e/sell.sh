@@ -6,8 +6,13 @@ sql "UPDATE DFN_Paper SET PrintStyle='2' WHERE PaperID='P03'"
 sql "INSERT INTO Sales VALUES ('07','张三')"
 book_in A 001 100 15
 
-checking "a wrong password is refused in a box, the right one opens the main window"
+checking "the logon stands in the middle of the screen, where the window manager puts a window"
 start_program
+in_front 用户登录
+eval "$(xdotool getactivewindow getwindowgeometry --shell)"
+[ $((X + WIDTH / 2 - 1366 / 2)) -lt 100 ] && [ "$X" -gt 300 ] && [ "$Y" -gt 200 ] || wrong "it stands at $X, $Y"
+
+checking "a wrong password is refused in a box, the right one opens the main window"
 log_on 2
 box_comes 用户名与密码不匹配！
 press Return

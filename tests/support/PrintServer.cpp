@@ -7,6 +7,7 @@
 #include <QFile>
 
 #include <cups/cups.h>
+#include <gtest/gtest.h>
 
 #include <csignal>
 #include <stdexcept>
@@ -265,4 +266,14 @@ QString PdfInfo(const QString& file, const QString& key)
             return line.mid(key.size() + 1).trimmed();
     }
     return {};
+}
+
+void KeepDocument(const QString& file, const QString& name)
+{
+    const QString folder = qEnvironmentVariable("ORVANE_DOCUMENTS");
+    if (folder.isEmpty())
+        return;
+    QDir().mkpath(folder);
+    QFile::remove(folder + u'/' + name);
+    EXPECT_TRUE(QFile::copy(file, folder + u'/' + name));
 }

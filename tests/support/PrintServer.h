@@ -56,3 +56,6 @@ private:
 
 /// One value of what poppler's pdfinfo tells of a file: "Pages", "Page size", "Title".
 QString PdfInfo(const QString& file, const QString& key);
+
+/// With ORVANE_DOCUMENTS set to a folder, a document stays there under a name, to be looked at.
+void KeepDocument(const QString& file, const QString& name);
