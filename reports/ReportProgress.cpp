@@ -13,8 +13,11 @@ namespace {
 constexpr int Moment = 300; // milliseconds: a report that is there by then needs no window
 }
 
-ReportProgress::ReportProgress(QWidget* window, ListGrid* list) : m_window(window), m_list(list)
-{}
+ReportProgress::ReportProgress(QWidget* window, ListGrid* list)
+    : m_window(window), m_list(list), m_longAnswer(Gateway(), [this] { return IsStillWanted(); })
+{
+    m_sinceBegin.start();
+}
 
 ReportProgress::~ReportProgress()
 {
@@ -41,16 +44,24 @@ void ReportProgress::TakeRows(std::vector<Sheet::Row> rows)
 void ReportProgress::Begin(int steps)
 {
     m_steps = steps;
-    m_sinceBegin.start();
+    if (m_progress && !m_progress->IsCancelled())
+        m_progress->Begin(steps);
 }
 
 bool ReportProgress::Reach(int steps)
 {
-    if (!m_progress && steps < m_steps && m_sinceBegin.hasExpired(Moment))
+    m_done = steps;
+    return (!m_progress && steps >= m_steps) || IsStillWanted();
+}
+
+/// Also asked while a statement waits for its answer.
+bool ReportProgress::IsStillWanted()
+{
+    if (!m_progress && m_sinceBegin.hasExpired(Moment))
         ShowProgress();
     if (!m_progress)
         return true;
-    m_progress->Reach(steps);
+    m_progress->Reach(m_done);
     return !m_progress->IsCancelled();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/gateway/DataGateway.h"
 #include "reports/ReportBuilder.h"
 
 #include <QElapsedTimer>
@@ -8,8 +9,9 @@ class ListGrid;
 class ProgressWindow;
 class QWidget;
 
-/// Shows a report in the window's list while it is built. Once that takes longer than a moment, the progress
-/// window stands over it, and Esc ends the build; the report window is disabled meanwhile.
+/// Shows a report in the window's list while it is built. Once that takes longer than a moment, be it one
+/// statement, the progress window stands over it, and Esc ends the build; the report window is disabled
+/// meanwhile. As long as it stands a statement may take its time; one that Esc ends throws AnswerCancelled.
 class ReportProgress : public ReportSink {
 public:
     ReportProgress(QWidget* window, ListGrid* list);
@@ -22,11 +24,14 @@ public:
 
 private:
     void ShowProgress();
+    bool IsStillWanted();
 
     QWidget* m_window;
     ListGrid* m_list;
     ProgressWindow* m_progress = nullptr;
     QElapsedTimer m_sinceBegin;
-    int m_steps = 0;
+    int m_steps = 0; ///< not known before the records are there
+    int m_done = 0;
     bool m_wasFocused = false;
+    DataGateway::LongAnswer m_longAnswer;
 };

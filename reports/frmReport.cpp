@@ -159,7 +159,11 @@ void frmReport::ShowData(bool useColStatus)
     TellCondition(u"（已中断，不是全部）"_s); // unless it comes to its end
     {
         ReportProgress progress(this, ui->lvReport);
-        m_isWhole = BuildReport(m_query, progress);
+        try {
+            m_isWhole = BuildReport(m_query, progress);
+        } catch (const AnswerCancelled&) {
+            m_isWhole = false; // stopped in the middle of a statement
+        }
     }
     TellCondition(m_isWhole ? QString() : u"（已停止，不是全部）"_s);
     ui->lvReport->MakeCurrent(0);

@@ -387,6 +387,32 @@ TEST_F(ReportForm, ALongReportShowsItsProgressAndIsDisabledMeanwhile)
     EXPECT_EQ(FocusName(), u"lvReport"_s);
 }
 
+TEST_F(ReportForm, EscStopsAReportInTheMiddleOfOneLongStatement)
+{
+    ReportCase slow = GoldenReport(u"RptSaleDetail"_s);
+    slow.caption = u"一月"_s;
+    Ask(slow);
+    Db().Run(u"LOCK TABLES Sal_List WRITE"_s); // the one statement of its rows waits
+    QTimer asUser;
+    QObject::connect(&asUser, &QTimer::timeout, &asUser, [] {
+        if (Form* progress = Windows().Find(u"frmProgress"_s))
+            QTest::keyClick(progress->Widget(), Qt::Key_Escape);
+    });
+    asUser.start(20);
+    OpenReport()->ShowData(true);
+    asUser.stop();
+    Db().Run(u"UNLOCK TABLES"_s);
+    EXPECT_FALSE(OpenReport()->IsWhole());
+    EXPECT_EQ(OpenReport()->Caption(ReportView::Line::Condition), u"一月（已停止，不是全部）"_s);
+    EXPECT_EQ(List()->RowCount(), 0);
+    EXPECT_EQ(Windows().Find(u"frmProgress"_s), nullptr);
+    EXPECT_TRUE(Window()->isEnabled());
+
+    OpenReport()->ShowData(true);
+    EXPECT_TRUE(OpenReport()->IsWhole()) << "the connection stands";
+    EXPECT_GT(List()->RowCount(), 0);
+}
+
 TEST_F(ReportForm, EscStopsALongReportWhichShowsWhatItHasAndSaysSo)
 {
     ReportCase slow = GoldenReport(u"RptSalesDescribe"_s);
