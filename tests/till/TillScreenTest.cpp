@@ -5,6 +5,7 @@
 #include <QColor>
 #include <QFontMetricsF>
 #include <QPalette>
+#include <QWidget>
 
 #include <utility>
 
@@ -15,21 +16,20 @@ namespace {
 const QString Unsaved = u"没有编号，这一单没有保存；\n单号NO.01260309002已用掉。"_s;
 
 /// A picker that takes 鲜多多 as soon as it opens, or nobody.
-class Picker : public Form {
+class Picker : public QWidget, public Form {
 public:
-    Picker(QWidget* owner, bool takes) : m_window(new QWidget(owner, Qt::Dialog)), m_takes(takes) {}
+    Picker(QWidget* owner, bool takes) : QWidget(owner, Qt::Dialog), m_takes(takes) {}
 
-    QWidget* Widget() override { return m_window; }
+    QWidget* Widget() override { return this; }
     void OnLoad() override
     {
         if (m_takes)
             Windows().Find(u"frmSale"_s)->TakeName(u"鲜多多"_s);
         Windows().Unloaded(this);
-        m_window->deleteLater();
+        deleteLater();
     }
 
 private:
-    QWidget* m_window;
     bool m_takes;
 };
 
