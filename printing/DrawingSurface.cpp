@@ -13,6 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int TwipsPerPoint = 20;
+constexpr double LargestFont = 32767; // twips: taller than the longest paper
 constexpr int TwipsPerDrawWidth = 10;
 constexpr int BlackMode = 1;
 constexpr int NoMode = 11;
@@ -122,8 +123,8 @@ void DrawingSurface::SetFontStretch(int percent)
 QFont DrawingSurface::PageFont() const
 {
     QFont font = m_font;
-    // A unit of the page is a twip.
-    font.setPixelSize(std::max(1, qRound(m_font.pointSizeF() * TwipsPerPoint / Zoom())));
+    // A unit of the page is a twip. A preview of no size at all divides by nothing.
+    font.setPixelSize(qRound(std::clamp(m_font.pointSizeF() * TwipsPerPoint / Zoom(), 1.0, LargestFont)));
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }
