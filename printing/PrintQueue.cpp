@@ -97,7 +97,7 @@ QString PrintJob::KeepAsFile() const
     if (isNew && !QDir().mkpath(folder))
         throw RunTimeError(u"无法建立文件夹："_s + folder);
     try {
-        const QString file = WriteFile();
+        QString file = WriteFile();
         if (isNew)
             AfterHandler([folder] {
                 ShowInfo(u"没有打印机接收的单据存为 PDF 文件，放在这个文件夹里：\n"_s + folder);

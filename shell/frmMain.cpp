@@ -281,7 +281,7 @@ void frmMain::ToolbarHelp()
         ShowInfo(u"无法打开帮助文件，请用浏览器打开："_s + u"\r\n"_s + page);
 }
 
-void frmMain::ToolbarExit()
+void frmMain::ToolbarExit() // NOLINT(bugprone-virtual-near-miss)
 {
     close();
 }

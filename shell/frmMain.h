@@ -53,7 +53,7 @@ private:
     void PressToolbar(const ToolbarButton& button);
     void Act(const ToolbarButton& button);
     void ToolbarHelp();
-    void ToolbarExit();
+    void ToolbarExit(); // NOLINT(bugprone-virtual-near-miss): both names are the toolbar's own
 
     WorkArea* m_workArea;
     QHash<QString, QAction*> m_buttons;

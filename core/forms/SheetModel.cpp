@@ -6,7 +6,7 @@ namespace {
 
 int AlignmentOf(const SheetColumn& column)
 {
-    return (column.Alignment() | Qt::AlignVCenter).toInt();
+    return static_cast<int>((column.Alignment() | Qt::AlignVCenter).toInt());
 }
 
 } // namespace

@@ -19,7 +19,7 @@ namespace {
 
 // The library runs an operation that can pause on a stack of its own. Its default is too short for the
 // look-up of a host name, which may load modules of the system.
-constexpr std::size_t OperationStack = 512 * 1024;
+constexpr std::size_t OperationStack = std::size_t{512} * 1024;
 
 // Seconds. A server that was unplugged while a till stood idle is found dead before the next ticket, and
 // a router on the way does not forget the connection.
