@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -57,8 +58,9 @@ StoppingProxy::StoppingProxy() : m_listener(socket(AF_INET, SOCK_STREAM | SOCK_C
     address.sin_family = AF_INET;
     address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
     socklen_t size = sizeof address;
-    bind(m_listener, reinterpret_cast<const sockaddr*>(&address), size);
-    listen(m_listener, 8);
+    if (bind(m_listener, reinterpret_cast<const sockaddr*>(&address), size) != 0 ||
+        listen(m_listener, 8) != 0)
+        throw std::runtime_error("the proxy finds no port");
     getsockname(m_listener, reinterpret_cast<sockaddr*>(&address), &size);
     m_port = ntohs(address.sin_port);
     m_thread = std::thread([this] { Run(); });
